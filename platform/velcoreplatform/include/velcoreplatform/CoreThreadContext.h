@@ -1,0 +1,63 @@
+// CoreThreadContext: the named objects of the session that the calling thread works for.
+//
+// A host enters a session on a thread with a ScopedSession; several threads may work for one session at once.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <boost/any.hpp>
+
+#include "velcoreplatform/Export.h"
+#include "velcoreplatform/TString.h"
+
+class VELCOREPLATFORM_API CoreThreadContext
+{
+public:
+    // The named object of the current session, null if none or outside a session. Any thread; synchronises by itself.
+    static std::shared_ptr<boost::any> GetGenericObject(TString const & key);
+    static void SetGenericObject(TString const & key, std::shared_ptr<boost::any> object);
+
+    // The same store without synchronisation, for a session that only the calling thread works for. Outside a session
+    // setting logs a warning and keeps nothing.
+    static std::shared_ptr<boost::any> GetGenericUnsynchronizedObject(TString const & key);
+    static void SetGenericUnsynchronizedObject(TString const & key, std::shared_ptr<boost::any> object);
+
+    // Says if the calling thread runs in a session. Asked before session objects are looked for; an empty function is a
+    // fault (std::bad_function_call). The default answers by ScopedSession. Set it before other threads start.
+    static std::function<bool()> & HasSessionId;
+};
+
+// The objects of one session. Made by a host, entered on any number of threads.
+class VELCOREPLATFORM_API Session
+{
+public:
+    Session();
+    ~Session();
+    Session(Session const &) = delete;
+    Session & operator=(Session const &) = delete;
+
+private:
+    friend class CoreThreadContext;
+    struct Store;
+    std::unique_ptr<Store> m_store;
+};
+
+// Enters a session on the calling thread for the object's lifetime; the session before comes back at the end. Scopes
+// nest and belong to the thread that made them.
+class VELCOREPLATFORM_API ScopedSession
+{
+public:
+    // A fresh session of its own.
+    ScopedSession();
+    explicit ScopedSession(std::shared_ptr<Session> session);
+    ~ScopedSession();
+    ScopedSession(ScopedSession const &) = delete;
+    ScopedSession & operator=(ScopedSession const &) = delete;
+
+    std::shared_ptr<Session> const & GetSession() const noexcept { return m_session; }
+
+private:
+    std::shared_ptr<Session> m_session;
+    Session * m_before;
+};

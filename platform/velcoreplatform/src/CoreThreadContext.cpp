@@ -1,0 +1,91 @@
+#include "velcoreplatform/CoreThreadContext.h"
+
+#include <cstdlib>
+#include <mutex>
+#include <unordered_map>
+
+#include "velcoreplatform/ICrashNow.h"
+#include "velcoreplatform/TLog.h"
+#include "velsys/NoDestructor.h"
+
+struct Session::Store
+{
+    std::shared_ptr<boost::any> Find(TString const & key) const
+    {
+        auto const found = objects.find(key);
+        return found == objects.end() ? nullptr : found->second;
+    }
+
+    std::mutex mutex;
+    std::unordered_map<TString, std::shared_ptr<boost::any>> objects;
+};
+
+namespace {
+
+thread_local Session * t_current = nullptr;
+
+std::function<bool()> & SessionTest()
+{
+    static detail::NoDestructor<std::function<bool()>> s_test([] { return t_current != nullptr; });
+    return *s_test;
+}
+
+std::function<void()> & CrashHook()
+{
+    static detail::NoDestructor<std::function<void()>> s_hook([] { std::abort(); });
+    return *s_hook;
+}
+
+void WarnOutsideSession(TString const & key)
+{
+    LogMessage(TLog::Warn(), TFormatString(u"CoreThreadContext: object \"%1\" set outside a session").arg(key));
+}
+
+}  // namespace
+
+std::function<bool()> & CoreThreadContext::HasSessionId = SessionTest();
+std::function<void()> & ICrashNow = CrashHook();
+
+std::shared_ptr<boost::any> CoreThreadContext::GetGenericObject(TString const & key)
+{
+    if (t_current == nullptr)
+        return nullptr;
+    std::lock_guard const lock(t_current->m_store->mutex);
+    return t_current->m_store->Find(key);
+}
+
+void CoreThreadContext::SetGenericObject(TString const & key, std::shared_ptr<boost::any> object)
+{
+    if (t_current == nullptr)
+        return WarnOutsideSession(key);
+    std::lock_guard const lock(t_current->m_store->mutex);
+    t_current->m_store->objects[key] = std::move(object);
+}
+
+std::shared_ptr<boost::any> CoreThreadContext::GetGenericUnsynchronizedObject(TString const & key)
+{
+    return t_current == nullptr ? nullptr : t_current->m_store->Find(key);
+}
+
+void CoreThreadContext::SetGenericUnsynchronizedObject(TString const & key, std::shared_ptr<boost::any> object)
+{
+    if (t_current == nullptr)
+        return WarnOutsideSession(key);
+    t_current->m_store->objects[key] = std::move(object);
+}
+
+Session::Session() : m_store(std::make_unique<Store>()) {}
+
+Session::~Session() = default;
+
+ScopedSession::ScopedSession() : ScopedSession(std::make_shared<Session>()) {}
+
+ScopedSession::ScopedSession(std::shared_ptr<Session> session) : m_session(std::move(session)), m_before(t_current)
+{
+    t_current = m_session.get();
+}
+
+ScopedSession::~ScopedSession()
+{
+    t_current = m_before;
+}

@@ -1,0 +1,58 @@
+// TStringCore: the string of the lowest layer, an immutable-by-convention sequence of UTF-16 code units with a
+// terminator.
+//
+// Lengths count code units. The storage is Qt's implicitly shared QString, so a copy costs one atomic increment.
+// Several threads may read one object; a writer needs it alone.
+#pragma once
+
+#include <QtCore/QString>
+
+#include <string_view>
+#include <utility>
+
+#include "velsys/Export.h"
+
+class TStringCore
+{
+public:
+    TStringCore() noexcept = default;
+
+    // `length` code units, or up to the terminator for -1. A null pointer gives the empty string.
+    TStringCore(char16_t const * text, int length = -1)
+        : m_text(text == nullptr ? QString() : QString(reinterpret_cast<QChar const *>(text), length))
+    {}
+    TStringCore(QString text) noexcept : m_text(std::move(text)) {}
+
+    TStringCore(TStringCore const &) = default;
+    TStringCore(TStringCore &&) noexcept = default;
+    // Copy and swap: QString's own assignment reads as a race to an uninstrumented thread checker.
+    TStringCore & operator=(TStringCore const & other)
+    {
+        QString copy(other.m_text);
+        m_text.swap(copy);
+        return *this;
+    }
+    TStringCore & operator=(TStringCore && other) noexcept
+    {
+        QString moved(std::move(other.m_text));
+        m_text.swap(moved);
+        return *this;
+    }
+
+    int length() const noexcept { return static_cast<int>(m_text.size()); }
+    // Never null; terminated by U+0000.
+    char16_t const * constData() const noexcept { return reinterpret_cast<char16_t const *>(m_text.utf16()); }
+    std::u16string_view View() const noexcept
+    {
+        return {reinterpret_cast<char16_t const *>(m_text.constData()), static_cast<std::size_t>(m_text.size())};
+    }
+
+    QString const & toQString() const noexcept { return m_text; }
+    QString & MutableQString() noexcept { return m_text; }
+
+    friend bool operator==(TStringCore const & a, TStringCore const & b) noexcept { return a.View() == b.View(); }
+    friend bool operator==(TStringCore const & a, char16_t const * b) noexcept { return a.View() == b; }
+
+private:
+    QString m_text;
+};

@@ -1,0 +1,11 @@
+#include "velsys/RefCntObject.h"
+
+#include "velsys/RefCntPtr.h"
+#include "velsys/ThrowSite.h"
+
+RefCntObject::~RefCntObject() = default;
+
+void detail::ThrowNullPointerDereferenced()
+{
+    VELTRIA_FAIL("Null pointer dereferenced", 0x00BF554A);
+}
