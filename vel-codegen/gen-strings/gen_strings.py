@@ -1,0 +1,236 @@
+#!/usr/bin/env python3
+"""Turns the table of texts into C++: the enumeration CoreData::StringId and the two maps over it.
+
+usage: gen_strings.py TABLE --header StringIds.h --source StringTable.cpp
+
+TABLE is UTF-8, tab separated; README.md beside this file describes its columns. Every fault of the table is
+printed as `file:line: error: text`, nothing is written then, and the exit status is 1.
+"""
+
+import argparse
+import os
+import re
+import sys
+import zlib
+
+COLUMNS = ("key", "id", "english")
+KEY = re.compile(r"ID[SP](_[A-Z0-9]+)+")
+FIXED_ID = re.compile(r"0x[0-9A-F]{8}")
+PLACE = re.compile(r"%([1-9])")
+ESCAPES = {"\\": "\\", '"': '"', "n": "\n", "t": "\t"}
+
+
+class Entry:
+    """One line of the table: the key, its 32-bit number and its English text."""
+
+    def __init__(self, line, key, number, english):
+        self.line = line
+        self.key = key
+        self.number = number
+        self.english = english
+
+
+def derived_id(key):
+    """The number of a key without a fixed one: CRC-32 of its ASCII text, a function of the key alone."""
+    return zlib.crc32(key.encode("ascii"))
+
+
+def unquote(text):
+    """The text inside the quotes, or ValueError with the reason."""
+    if len(text) < 2 or not text.startswith('"') or not text.endswith('"'):
+        raise ValueError("the English text must stand in double quotes")
+    out = []
+    chars = iter(text[1:-1])
+    for char in chars:
+        if char == '"':
+            raise ValueError('a double quote inside the text is written \\"')
+        if char == "\\":
+            escaped = next(chars, "")
+            if escaped not in ESCAPES or not escaped:
+                raise ValueError("unknown escape '\\%s'" % escaped)
+            char = ESCAPES[escaped]
+        elif ord(char) < 0x20 or ord(char) == 0x7F:
+            raise ValueError("control character U+%04X in the text" % ord(char))
+        out.append(char)
+    return "".join(out)
+
+
+def check_places(english):
+    """A text with %2 has %1 too, and so on: arguments are filled in from the lowest place."""
+    places = {int(digit) for digit in PLACE.findall(english)}
+    for number in range(1, max(places, default=0)):
+        if number not in places:
+            raise ValueError("place %%%d is missing" % number)
+
+
+def parse_row(columns):
+    """(key, fixed number or None, English text) of one row, or ValueError with the reason."""
+    if len(columns) != len(COLUMNS):
+        raise ValueError("expected %d columns (%s), found %d" % (len(COLUMNS), ", ".join(COLUMNS), len(columns)))
+    key, number, quoted = columns
+    if not KEY.fullmatch(key):
+        raise ValueError("'%s' is not a key: IDS_ or IDP_ and upper-case words joined with '_'" % key)
+    if number and not FIXED_ID.fullmatch(number):
+        raise ValueError("'%s' is not an id: 0x and eight upper-case hexadecimal digits" % number)
+    english = unquote(quoted)
+    if not english:
+        raise ValueError("the English text of %s is empty" % key)
+    check_places(english)
+    return key, int(number, 16) if number else None, english
+
+
+def read_table(path):
+    """(entries in the order of the table, faults as (line, text)); lines count from 1."""
+    with open(path, "rb") as file:
+        lines = file.read().split(b"\n")
+    entries, faults = [], []
+    line_of_key, entry_of_number = {}, {}
+    header_seen = False
+    for line, raw in enumerate(lines, 1):
+        try:
+            text = raw.decode("utf-8").rstrip("\r")
+        except UnicodeDecodeError as error:
+            faults.append((line, "not UTF-8: byte 0x%02X at column %d" % (raw[error.start], error.start + 1)))
+            continue
+        if not text.strip() or text.startswith("#"):
+            continue
+        columns = text.split("\t")
+        if not header_seen:
+            header_seen = True
+            if tuple(columns) != COLUMNS:
+                faults.append((line, "expected the header line '%s'" % "<tab>".join(COLUMNS)))
+            continue
+        try:
+            key, number, english = parse_row(columns)
+        except ValueError as error:
+            faults.append((line, str(error)))
+            continue
+        if key in line_of_key:
+            faults.append((line, "duplicate key %s, first on line %d" % (key, line_of_key[key])))
+            continue
+        line_of_key[key] = line
+        entry = Entry(line, key, derived_id(key) if number is None else number, english)
+        if entry.number == 0:
+            faults.append((line, "id 0x00000000 of %s stands for no key: give it another id" % key))
+            continue
+        other = entry_of_number.setdefault(entry.number, entry)
+        if other is not entry:
+            faults.append((line, "duplicate id 0x%08X of %s, also of %s on line %d"
+                           % (entry.number, key, other.key, other.line)))
+            continue
+        entries.append(entry)
+    if not header_seen:
+        faults.append((len(lines), "expected the header line '%s'" % "<tab>".join(COLUMNS)))
+    elif not entries and not faults:
+        faults.append((len(lines), "the table has no keys"))
+    return entries, faults
+
+
+def literal(text):
+    """A C++ narrow literal of the text's UTF-8 bytes; three-digit octal escapes never run into what follows."""
+    out = []
+    for byte in text.encode("utf-8"):
+        char = chr(byte)
+        if char in '"\\':
+            out.append("\\" + char)
+        elif 0x20 <= byte < 0x7F:
+            out.append(char)
+        else:
+            out.append("\\%03o" % byte)
+    return '"' + "".join(out) + '"'
+
+
+def comment(text):
+    """The text as it reads in a one-line comment: control characters and a closing backslash spelled out."""
+    return text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t")
+
+
+def header_text(entries, table):
+    out = ["""\
+// Generated from %s by gen_strings.py: change the table, not this file.
+
+#pragma once
+
+#include <cstdint>
+
+namespace CoreData {
+
+/// The keys of the library's string table, one enumerator a key, named as the key: what LookupTStrExported takes.
+/// The numbers are stable: a number is fixed by the table or derived from the key's text (CRC-32), so new keys never
+/// move old ones. 0 is no key. Any other 32-bit number may be cast to a StringId; its text is empty.
+///
+///   CoreData::LookupTStrExported(CoreData::StringId::IDS_AGG_WEEK)  // "Week Number"
+enum class StringId : std::uint32_t
+{
+""" % table]
+    for entry in entries:
+        out.append("    %s = 0x%08X,  ///< \"%s\"\n" % (entry.key, entry.number, comment(entry.english)))
+    out.append("""\
+};
+
+}  // namespace CoreData
+""")
+    return "".join(out)
+
+
+def tree(entries, value):
+    """A switch over the sparse numbers, in rising order: compilers make a balanced decision tree of it."""
+    out = ["    switch (id) {\n"]
+    for entry in sorted(entries, key=lambda entry: entry.number):
+        out.append("    case StringId::%s:\n        return %s;\n" % (entry.key, literal(value(entry))))
+    out.append("    }\n    return \"\";\n")
+    return "".join(out)
+
+
+def source_text(entries, table):
+    return """\
+// Generated from %s by gen_strings.py: change the table, not this file.
+
+#include "main/core/StringTable.h"
+
+namespace CoreData::detail {
+
+char const * StringTableKey(StringId id) noexcept
+{
+%s}
+
+char const * StringTableEnglish(StringId id) noexcept
+{
+%s}
+
+}  // namespace CoreData::detail
+""" % (table, tree(entries, lambda entry: entry.key), tree(entries, lambda entry: entry.english))
+
+
+def write(path, text):
+    """Puts the whole file in place at once, so that an interrupted build leaves no half of it."""
+    os.makedirs(os.path.dirname(path) or ".", exist_ok=True)
+    temporary = path + ".new"
+    with open(temporary, "w", encoding="utf-8", newline="\n") as file:
+        file.write(text)
+    os.replace(temporary, path)
+
+
+def main(arguments):
+    parser = argparse.ArgumentParser(description="Generates the string table of the library.")
+    parser.add_argument("table")
+    parser.add_argument("--header", required=True, help="the public header StringIds.h")
+    parser.add_argument("--source", required=True, help="the source StringTable.cpp")
+    options = parser.parse_args(arguments)
+    try:
+        entries, faults = read_table(options.table)
+    except OSError as error:
+        print("%s:1: error: %s" % (options.table, error.strerror), file=sys.stderr)
+        return 1
+    if faults:
+        for line, text in faults:
+            print("%s:%d: error: %s" % (options.table, line, text), file=sys.stderr)
+        return 1
+    table = os.path.basename(options.table)
+    write(options.header, header_text(entries, table))
+    write(options.source, source_text(entries, table))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
