@@ -181,8 +181,9 @@ TEST(StringIds, OtherNumbersAreTheCrc32OfTheKey)
     for (FixedId const & row : kFixedIds)
         fixed.insert(row.id);
     for (Row const & row : AllRows()) {
-        if (fixed.count(row.id) == 0)
+        if (fixed.count(row.id) == 0) {
             EXPECT_EQ(static_cast<std::uint32_t>(row.id), Crc32(row.key)) << row.key;
+        }
     }
 }
 
@@ -204,8 +205,9 @@ TEST(StringIds, PalettesThatAUserPicksFromAListHaveDifferentNames)
 {
     std::set<std::string> names;
     for (Row const & row : kPalettes) {
-        if (std::string_view(row.key).find("TOOLTIP_") == std::string_view::npos)
+        if (std::string_view(row.key).find("TOOLTIP_") == std::string_view::npos) {
             EXPECT_TRUE(names.insert(row.english).second) << row.key;
+        }
     }
 }
 
