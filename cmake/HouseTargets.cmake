@@ -11,10 +11,12 @@ function(velcoredata_library target)
         SOVERSION "${PROJECT_VERSION_MAJOR}"
         INSTALL_RPATH "$ORIGIN")
     target_compile_features(${target} PUBLIC cxx_std_20)
-    install(TARGETS ${target}
-        EXPORT velcoredata-targets
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-        FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+    # At the end of the whole configuration: install() skips a file set that does not exist yet when it is called.
+    cmake_language(EVAL CODE "
+        cmake_language(DEFER DIRECTORY [[${PROJECT_SOURCE_DIR}]] CALL install TARGETS ${target}
+            EXPORT velcoredata-targets
+            LIBRARY DESTINATION [[${CMAKE_INSTALL_LIBDIR}]]
+            FILE_SET HEADERS DESTINATION [[${CMAKE_INSTALL_INCLUDEDIR}]])")
 endfunction()
 
 # Environment of every test: one locale and one zone, and what the sanitizers need to know.
