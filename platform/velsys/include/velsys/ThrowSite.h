@@ -2,6 +2,8 @@
 // macros form both the number and the name of the error from that literal, so that the two cannot differ.
 #pragma once
 
+#include <type_traits>
+
 #include "velsys/LogicException.h"
 #include "velsys/TError.h"
 #include "velsys/VeltriaError.h"
@@ -19,13 +21,25 @@ constexpr bool IsErrorCodeLiteral(char const * text)
     return text[10] == '\0';
 }
 
+// A literal becomes a string; every other message is passed on as it is.
+inline TStringCore AsMessage(char16_t const * literal)
+{
+    return TStringCore(literal);
+}
+template <class Message>
+    requires(!std::is_array_v<Message> && !std::is_pointer_v<Message>)
+Message const & AsMessage(Message const & message) noexcept
+{
+    return message;
+}
+
 // Kept out of line so that a throw site costs its caller one call.
 template <class Exception, class Message>
 [[noreturn, gnu::cold, gnu::noinline]] void ThrowAt(Message const & message, unsigned code, char16_t const * name,
                                                     TError::ErrorSource source = TError::ErrorSource::General,
                                                     grpc::StatusCode status = grpc::StatusCode::UNKNOWN)
 {
-    throw Exception(message, TError::ErrorInfo(VeltriaError::MakeError(code, name), source, status));
+    throw Exception(AsMessage(message), TError::ErrorInfo(VeltriaError::MakeError(code, name), source, status));
 }
 
 }  // namespace detail
