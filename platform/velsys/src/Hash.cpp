@@ -1,5 +1,6 @@
 #include "velsys/Hash.h"
 
+#define XXH_INLINE_ALL
 #include <xxhash.h>
 
 unsigned THash32(void const * data, std::size_t bytes, unsigned seed)
