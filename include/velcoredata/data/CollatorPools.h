@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+
+#include "velcoredata/core/Export.h"
+#include "velcoredata/data/CollatorPool.h"
+#include "velcoreplatform/TString.h"
+
+// What a pool is made for: a collator name and Windows compare flags. Equal when both parts are.
+struct VELCOREDATA_API CollatorPoolKey
+{
+    TString name;
+    unsigned flags = 0;
+
+    friend bool operator==(CollatorPoolKey const & a, CollatorPoolKey const & b)
+    {
+        return a.flags == b.flags && a.name == b.name;
+    }
+    std::size_t GetHashCode() const;
+};
+
+// The pool of the name "binary": one stateless collator for all threads. Never freed.
+VELCOREDATA_API CollatorPool & GetBinaryCollatorPool();
+
+// The pool of an ICU collator name, made on the first request for the key and kept until the process ends. When two
+// threads race to make one, both get the same pool. A bad name raises the assertions of the name grammar or the ICU
+// exception ("String comparison error.") and leaves no pool behind.
+VELCOREDATA_API CollatorPool & GetICUCollatorPool(CollatorPoolKey const & key);
