@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "main/core/StringTable.h"
+#include "tests/support/AllocationCounter.h"
 #include "velcoreplatform/CoreThreadContext.h"
 
 namespace {
@@ -241,6 +242,16 @@ TEST(LookupTStrExported, AsksOnceWhetherTheThreadRunsInASession)
     });
     EXPECT_EQ(English(StringId::IDS_AGG_DAY), "Day");
     EXPECT_EQ(asked, 1);
+}
+
+TEST(LookupTStrExported, AllocatesNothingButTheTextOutsideASession)
+{
+    for (Row const & row : AllRows()) {
+        AllocationCounter const allocations;
+        TString const text = LookupTStrExported(row.id);
+        EXPECT_LE(allocations.Count(), 1u) << row.key;
+        EXPECT_FALSE(text.isEmpty());
+    }
 }
 
 TEST(LookupTStrExported, RaisesBadFunctionCallWhereTheSessionQuestionIsEmpty)
