@@ -5,7 +5,7 @@
 
 #include <string>
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 namespace {
 
@@ -77,5 +77,8 @@ TEST(CharacterText, WhiteSpaceIsIcus)
     EXPECT_FALSE(t_u_isWhitespace(U'\u00A0'));
     EXPECT_FALSE(t_u_isWhitespace(U'a'));
     for (char32_t c = 0; c < 0x11000; ++c)
-        ASSERT_EQ(static_cast<bool>(u_isWhitespace(static_cast<UChar32>(c))), t_u_isWhitespace(c)) << std::hex << c;
+        ASSERT_EQ(static_cast<bool>(u_isWhitespace(static_cast<UChar32>(c))), t_u_isWhitespace(c))
+            << static_cast<unsigned>(c);
 }
+
+}  // namespace VelICU_V2

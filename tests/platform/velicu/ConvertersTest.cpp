@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(Converters, KnowTheNamesOfAStandard)
 {
@@ -36,3 +36,5 @@ TEST(Converters, AreListedByIndex)
     EXPECT_EQ(nullptr, t_ucnv_getAvailableName(count));
     EXPECT_EQ(nullptr, t_ucnv_getAvailableName(-1));
 }
+
+}  // namespace VelICU_V2

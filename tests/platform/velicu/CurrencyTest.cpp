@@ -4,7 +4,7 @@
 
 #include <string>
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(Currency, IsThatOfTheCountry)
 {
@@ -29,3 +29,5 @@ TEST(Currency, ALocaleWithoutACountryHasNone)
     EXPECT_EQ(0, t_ucurr_forLocale("en", code, 4, status));
     EXPECT_TRUE(ICU_FAILURE(status));
 }
+
+}  // namespace VelICU_V2

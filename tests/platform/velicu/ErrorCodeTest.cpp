@@ -5,7 +5,7 @@
 #include "velicu/LocaleNames.h"
 #include "velicu/ScopedStatusFault.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(ErrorCode, WarningsAreSuccess)
 {
@@ -78,3 +78,5 @@ TEST(ScopedStatusFault, AStatusInFailureIsLeftAlone)
     EXPECT_EQ(U_PARSE_ERROR, status);
     EXPECT_STREQ("x", buffer);
 }
+
+}  // namespace VelICU_V2

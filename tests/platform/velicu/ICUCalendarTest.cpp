@@ -9,7 +9,7 @@
 
 #include "velicu/ScopedStatusFault.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 namespace {
 
@@ -111,7 +111,7 @@ TEST(ICUCalendar, IsGregorianUnlessTheLocaleNamesAnother)
     ICUErrorCode status = U_ZERO_ERROR;
     buddhist->setTime(18262 * DAY, status);
     EXPECT_EQ(Ymd(2563, 1, 1), DateOf(*buddhist));
-    buddhist->setTime(-141427 * DAY, status);  // 1582-10-14
+    buddhist->setTime(-141428 * DAY, status);  // 1582-10-14
     EXPECT_EQ(Ymd(2125, 10, 14), DateOf(*buddhist));
 
     auto const gregorian =
@@ -290,3 +290,5 @@ TEST(ICUCalendar, ExtremeArgumentsDoNoHarm)
     calendar->setTime(1e300, status);
     calendar->WeekToYearScope();
 }
+
+}  // namespace VelICU_V2

@@ -7,7 +7,7 @@
 #include "tests/support/ErrorMatchers.h"
 #include "velicu/ScopedStatusFault.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 namespace {
 
@@ -46,7 +46,7 @@ TEST(ICUDateFormat, RunsInUtcOnTheGregorianCalendarUnlessTheLocaleNamesAnother)
               Text(*FormatFor(u"yyyy-MM-dd HH:mm:ss.SSS Z", "en_US"), NOON_2020));
     EXPECT_EQ(TString(u"2020"), Text(*FormatFor(u"yyyy", "th_TH"), NOON_2020));
     EXPECT_EQ(TString(u"2563"), Text(*FormatFor(u"yyyy", "th_TH@calendar=buddhist"), NOON_2020));
-    EXPECT_EQ(TString(u"1582-10-10"), Text(*FormatFor(u"yyyy-MM-dd", "en_US"), -141431 * DAY));
+    EXPECT_EQ(TString(u"1582-10-10"), Text(*FormatFor(u"yyyy-MM-dd", "en_US"), -141432 * DAY));
     EXPECT_EQ(TString(u"2020"), Text(*FormatFor(u"yyyy", ""), NOON_2020));
 }
 
@@ -137,7 +137,7 @@ TEST(ICUDateFormat, PatternsAndCenturyMayChange)
     format->set2DigitYearStart(-25567 * DAY, status);  // 1900-01-01
     EXPECT_TRUE(ICU_SUCCESS(status));
     EXPECT_EQ(-25567 * DAY, Moment(*format, u"00-01-01"));
-    EXPECT_EQ(-25567 * DAY + 36524 * DAY, Moment(*format, u"99-12-31"));
+    EXPECT_EQ(10956 * DAY, Moment(*format, u"99-12-31"));
 }
 
 TEST(ICUDateFormat, MarksOfTheDaysHalvesCanBeEdited)
@@ -179,7 +179,7 @@ TEST(ICUDateFormat, StylesAreTheLocalesOwn)
     EXPECT_EQ(TString(u"January 1, 2020"),
               Text(*ICUDateFormat::createDateInstance(ICUDateFormat::kLong, *us), NOON_2020));
     EXPECT_EQ(
-        TString(u"Jan 1, 2020, 12:00 PM"),
+        TString(u"Jan 1, 2020, 12:00\u202FPM"),
         Text(*ICUDateFormat::createDateTimeInstance(ICUDateFormat::kMedium, ICUDateFormat::kShort, *us), NOON_2020));
     auto const thai = ICULocale::createInstance("th_TH");
     EXPECT_EQ(TString(u"1/1/20"), Text(*ICUDateFormat::createDateInstance(ICUDateFormat::kShort, *thai), NOON_2020));
@@ -236,3 +236,5 @@ TEST(ICUDateFormat, AFailedFormatExistsAndItsOperationsFail)
     EXPECT_EQ(0, position->getErrorIndex());
     EXPECT_EQ(nullptr, format->clone()->getCalendar());
 }
+
+}  // namespace VelICU_V2

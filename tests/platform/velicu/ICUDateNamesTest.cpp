@@ -9,7 +9,7 @@
 #include "tests/support/ErrorMatchers.h"
 #include "velicu/ScopedStatusFault.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(ICUDateFormatSymbols, CountFromOne)
 {
@@ -78,3 +78,5 @@ TEST(ICUDateTimePatternGenerator, FailsQuietly)
     EXPECT_EQ(TString(), generator->getBestPattern(u"yMd", status));
     EXPECT_EQ(U_MEMORY_ALLOCATION_ERROR, status);
 }
+
+}  // namespace VelICU_V2

@@ -6,7 +6,7 @@
 
 #include "tests/support/ErrorMatchers.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(ICULocale, ComesFromANameOrFromParts)
 {
@@ -74,3 +74,5 @@ TEST(ICULocale, AnyTextMakesALocale)
         locale->getDisplayName(*locale);
     }
 }
+
+}  // namespace VelICU_V2

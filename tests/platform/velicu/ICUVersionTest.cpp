@@ -6,7 +6,7 @@
 #include "tests/support/ErrorMatchers.h"
 #include "velicu/ICUString.h"
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 TEST(ICUVersion, IsThatOfTheLibraryAndAtLeast68)
 {
@@ -32,3 +32,5 @@ TEST(ICUString, NullIsTheEmptyText)
     EXPECT_EQ(0, ICUString::createInstance(static_cast<char const *>(nullptr))->length());
     EXPECT_EQ(TString(), ICUString::createInstance(TString())->ToTString());
 }
+
+}  // namespace VelICU_V2

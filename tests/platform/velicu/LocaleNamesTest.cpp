@@ -5,7 +5,7 @@
 
 #include <string>
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 namespace {
 
@@ -110,3 +110,5 @@ TEST(LocaleNames, TheBareEnvironmentIsAmericanEnglish)
     EXPECT_STREQ("en_US", t_uloc_getDefault());
     EXPECT_EQ("US", PartOf(t_uloc_getCountry, nullptr));
 }
+
+}  // namespace VelICU_V2

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-using namespace VelICU_V2;
+namespace VelICU_V2 {
 
 namespace {
 
@@ -68,3 +68,5 @@ TEST(WordBreak, NullHandlesFailQuietly)
     EXPECT_EQ(nullptr, t_utext_openUTF8(nullptr, "x", 1, status));
     EXPECT_EQ(nullptr, t_ubrk_open(UBRK_WORD, "en", nullptr, 0, status));
 }
+
+}  // namespace VelICU_V2
