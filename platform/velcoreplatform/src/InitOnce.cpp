@@ -4,16 +4,36 @@
 #include <memory>
 #include <mutex>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "velsys/NoDestructor.h"
+#include "velsys/ThrowSite.h"
 
 namespace {
 
 struct Entry
 {
-    // Recursive, so that a create function which asks for its own slot faults by endless recursion, not by a silent
-    // hang.
+    // Recursive, so that a create function which asks for its own slot is told so instead of waiting for itself.
     std::recursive_mutex mutex;
+    bool creating = false;
+    // The object was made, but extract gave null for it.
+    bool madeNull = false;
+    // Never destroyed; kept so that leak checkers see an owner.
+    std::vector<std::unique_ptr<boost::any>> objects;
+};
+
+// Says while it lives that the entry's object is being made.
+class Creating
+{
+public:
+    explicit Creating(Entry & entry) : m_entry(entry) { m_entry.creating = true; }
+    ~Creating() { m_entry.creating = false; }
+    Creating(Creating const &) = delete;
+    Creating & operator=(Creating const &) = delete;
+
+private:
+    Entry & m_entry;
 };
 
 // One mutex a slot: a slow creation holds up only the callers of its own slot, and creations may nest.
@@ -35,11 +55,15 @@ void InitOnce(void ** slot, boost::any * (*create)(void *), void * context, void
     std::atomic_ref<void *> const published(*slot);
     if (published.load(std::memory_order_acquire) != nullptr)
         return;
-    std::lock_guard const lock(EntryOf(slot).mutex);
-    if (published.load(std::memory_order_relaxed) != nullptr)
+    Entry & entry = EntryOf(slot);
+    std::lock_guard const lock(entry.mutex);
+    if (entry.madeNull || published.load(std::memory_order_relaxed) != nullptr)
         return;
+    VELTRIA_ASSERT_TEXT(!entry.creating, "InitOnce asked for a slot from its own create function", 0x1F0D5C2E);
+    Creating const creating(entry);
     std::unique_ptr<boost::any> made(create(context));
     void * const object = extract(made.get());
-    made.release();
+    entry.objects.push_back(std::move(made));
+    entry.madeNull = object == nullptr;
     published.store(object, std::memory_order_release);
 }

@@ -75,5 +75,10 @@ TFormatString & TFormatString::arg(long long value, int fieldWidth, int base, ch
 TFormatString & TFormatString::arg(double value, int fieldWidth, char format, int precision, char16_t fill,
                                    bool stripPoint)
 {
-    return arg(TString::number(value, format, precision, stripPoint), fieldWidth, fill);
+    TString const text = TString::number(value, format, precision, stripPoint);
+    if (fill == u'0' && fieldWidth > text.length() && text.startsWith(u"-")) {
+        m_core.arg(TString(u'-', 1) + TString(u'0', fieldWidth - text.length()) + text.mid(1));
+        return *this;
+    }
+    return arg(text, fieldWidth, fill);
 }

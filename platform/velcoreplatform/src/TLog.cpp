@@ -85,7 +85,9 @@ private:
 
 std::atomic<TLog::Logger *> g_logger{nullptr};
 
-void LogAt(TLog::AnySeverity const & severity, TString const & message)
+// A format string becomes text only if the logger wants it.
+template <class Message>
+void LogAt(TLog::AnySeverity const & severity, Message const & message)
 {
     TLog::Logger & logger = TLog::Logger::Get();
     if (logger.IsEnabled(severity))

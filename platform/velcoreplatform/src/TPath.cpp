@@ -1,8 +1,10 @@
 #include "velcoreplatform/TPath.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 TPath TPath::operator/(TPath const & relative) const
 {
@@ -21,9 +23,12 @@ bool FileExists(TPath const & path)
 TPath ModuleDirectory(void const * addressInModule)
 {
     Dl_info info{};
-    if (dladdr(addressInModule, &info) == 0 || info.dli_fname == nullptr)
+    void * module = nullptr;
+    if (dladdr1(addressInModule, &info, &module, RTLD_DL_LINKMAP) == 0 || info.dli_fname == nullptr)
         return TPath();
-    TString const file = TString::fromLocal8Bit(info.dli_fname);
-    int const slash = file.ReverseFind(u'/');
-    return slash < 0 ? TPath(u".") : TPath(file.left(slash == 0 ? 1 : slash));
+    // The program itself has no name in the list of modules, and the one in `info` is as the caller typed it.
+    char const * const name = static_cast<link_map const *>(module)->l_name;
+    QString const file =
+        name[0] == '\0' ? QFile::symLinkTarget(QStringLiteral("/proc/self/exe")) : QString::fromUtf8(name);
+    return TPath(TString(QFileInfo(file).absolutePath()));
 }

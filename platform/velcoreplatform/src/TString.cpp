@@ -141,7 +141,7 @@ TString & TString::setNum(unsigned long long value, int base)
 
 std::string TString::toLocal8Bit(bool * ok) const
 {
-    QStringEncoder encoder(QStringEncoder::Utf8);
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringConverter::Flag::Stateless);
     QByteArray const bytes = encoder.encode(toQString());
     if (ok != nullptr)
         *ok = !encoder.hasError();
@@ -209,7 +209,9 @@ int TString::indexOf(TString const & text, int from, CaseSensitivity cs) const n
 
 int TString::lastIndexOf(char16_t character, int from) const noexcept
 {
-    return Narrow(ToQt(View()).lastIndexOf(QChar(character), from));
+    // Qt would look at the terminator for `from` equal to the length.
+    int const last = std::min(from < 0 ? length() + from : from, length() - 1);
+    return last < 0 ? -1 : Narrow(ToQt(View()).lastIndexOf(QChar(character), last));
 }
 
 int TString::count(char16_t character) const noexcept

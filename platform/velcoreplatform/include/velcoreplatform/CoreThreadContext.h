@@ -50,6 +50,7 @@ class VELCOREPLATFORM_API ScopedSession
 public:
     // A fresh session of its own.
     ScopedSession();
+    // Null leaves the session before for the object's lifetime.
     explicit ScopedSession(std::shared_ptr<Session> session);
     ~ScopedSession();
     ScopedSession(ScopedSession const &) = delete;

@@ -24,6 +24,8 @@ public:
     TFormatString & arg(TString const & v1, TString const & v2, TString const & v3, TString const & v4);
     TFormatString & arg(TString const & v1, TString const & v2, TString const & v3, TString const & v4,
                         TString const & v5);
+    // A character would be written as its number.
+    TFormatString & arg(char16_t) = delete;
     TFormatString & arg(int value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');
     TFormatString & arg(unsigned short value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');
     TFormatString & arg(long long value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');

@@ -22,8 +22,9 @@ private:
     TString m_text;
 };
 
-// True for anything that exists under the path: file, directory or link target.
+// True for anything that exists under the path: file, directory or link target; also for a compiled-in resource (":/").
 VELCOREPLATFORM_API bool FileExists(TPath const & path);
 
-// The directory of the loaded module (program or shared library) that holds the address; empty for an address in none.
+// The absolute directory of the loaded module (program or shared library) that holds the address; empty for an address
+// in none.
 VELCOREPLATFORM_API TPath ModuleDirectory(void const * addressInModule);

@@ -21,6 +21,8 @@
 class VELCOREPLATFORM_API TString
 {
 public:
+    using value_type = char16_t;
+
     enum CaseSensitivity : int
     {
         CaseInsensitive = 0,  // by simple case folding, without a locale
@@ -45,7 +47,7 @@ public:
     // `count` times the character.
     TString(char16_t character, int count) : TString(QString(count < 0 ? 0 : count, QChar(character))) {}
     TString(char character, int count) : TString(static_cast<char16_t>(static_cast<unsigned char>(character)), count) {}
-    TString(QString text) noexcept : m_core(std::move(text)) {}
+    TString(QString text) : m_core(std::move(text)) {}
 
     static TString fromUtf8(char const * text, int length = -1);
     static TString fromUtf16(char16_t const * text, int length = -1) { return TString(text, length); }
@@ -61,7 +63,12 @@ public:
     TString & operator=(TString const &) = default;
     TString & operator=(TString &&) noexcept = default;
     TString & operator=(char16_t const * text) { return *this = TString(text); }
-    TString & operator=(char16_t character) { return *this = TString(character, 1); }
+    // A template, so that `text = {}` clears.
+    template <class Character, std::enable_if_t<std::is_same_v<Character, char16_t>, int> = 0>
+    TString & operator=(Character character)
+    {
+        return *this = TString(character, 1);
+    }
 
     // Numbers to text. A width above 0 pads on the left with `fill`, below 0 on the right. Base 2 to 36, lower-case
     // digits. Example: number(7, 2, 10, u'0') is "07".
@@ -71,20 +78,21 @@ public:
     static TString number(unsigned long value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');
     static TString number(long long value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');
     static TString number(unsigned long long value, int fieldWidth = 0, int base = 10, char16_t fill = u' ');
-    // `format` is 'e', 'f' or 'g' as in printf, always with a point. With stripPoint false, a text that would be a
-    // whole number without exponent keeps its point: number(3.0, 'g', 17, true) is "3", number(3.0, 'g', 17, false) is
-    // "3.".
+    // `format` is 'e', 'f' or 'g' as in printf, always with a point; but halves round away from zero, and negative zero
+    // reads "0". With stripPoint false, a text that would be a whole number without exponent keeps its point:
+    // number(3.0, 'g', 17, true) is "3", number(3.0, 'g', 17, false) is "3.".
     static TString number(double value, char format, int precision, bool stripPoint = true);
     TString & setNum(double value, char format, int precision, bool stripPoint = true);
     TString & setNum(long long value, int base = 10);
     TString & setNum(unsigned long long value, int base = 10);
 
-    // Text to numbers. Leading and trailing white space and a sign are accepted; on failure the result is 0 and *ok
-    // false. Base 0 reads the prefixes 0x and 0.
+    // Text to numbers. Leading and trailing white space and a sign are accepted, group separators are not; on failure
+    // the result is 0 and *ok false. Base 0 reads the prefixes 0x and 0.
     int toInt(bool * ok = nullptr, int base = 10) const { return toQString().toInt(ok, base); }
     unsigned toUInt(bool * ok = nullptr, int base = 10) const { return toQString().toUInt(ok, base); }
     long long toLongLong(bool * ok = nullptr, int base = 10) const { return toQString().toLongLong(ok, base); }
-    // Accepts "inf" and "nan" in any case.
+    // Accepts "inf" with a sign and "nan" without one, in any case. A number that is too large gives infinity and *ok
+    // false.
     double toDouble(bool * ok = nullptr) const { return toQString().toDouble(ok); }
 
     // Out. The pointers are terminated and live until the string changes.
@@ -125,14 +133,15 @@ public:
     // Compare, by code units unless a case sensitivity is given. The sign of the result counts.
     friend bool operator==(TString const & a, TString const & b) noexcept { return EqualViews(a.View(), b.View()); }
     friend bool operator==(TString const & a, char16_t const * b) noexcept { return a.View() == Literal(b); }
-    friend bool operator<(TString const & a, TString const & b) noexcept { return a.Compare(b) < 0; }
-    friend bool operator>(TString const & a, TString const & b) noexcept { return b < a; }
-    friend bool operator<=(TString const & a, TString const & b) noexcept { return !(b < a); }
-    friend bool operator>=(TString const & a, TString const & b) noexcept { return !(a < b); }
+    friend std::strong_ordering operator<=>(TString const & a, TString const & b) noexcept
+    {
+        return a.Compare(b) <=> 0;
+    }
+    friend std::strong_ordering operator<=>(TString const & a, char16_t const * b) { return a.Compare(b) <=> 0; }
     int Compare(TString const & other) const noexcept;
     int compare(TString const & other, CaseSensitivity cs = CaseSensitive) const noexcept;
     static int compare(TString const & a, TString const & b, CaseSensitivity cs = CaseSensitive) noexcept;
-    // The first n code units of both.
+    // The first n code units of both; a negative n counts as 0.
     static int compareN(TString const & a, TString const & b, int n, CaseSensitivity cs = CaseSensitive) noexcept;
     int CollateNoCase(char16_t const * other) const noexcept { return compare(TString(other), CaseInsensitive); }
     bool startsWith(TString const & text, CaseSensitivity cs = CaseSensitive) const noexcept;
@@ -140,7 +149,7 @@ public:
     bool contains(TString const & text, CaseSensitivity cs = CaseSensitive) const noexcept;
     bool contains(char16_t character) const noexcept { return indexOf(character) >= 0; }
 
-    // Search. `from` is the first index looked at; a negative one counts from the end.
+    // Search. `from` is the first index looked at (lastIndexOf goes down from it); a negative one counts from the end.
     int indexOf(char16_t character, int from = 0) const noexcept;
     int indexOf(TString const & text, int from = 0, CaseSensitivity cs = CaseSensitive) const noexcept;
     int lastIndexOf(char16_t character, int from = -1) const noexcept;
@@ -168,6 +177,8 @@ public:
     }
     TString & append(char16_t const * text, int length)
     {
+        if (length < 0)
+            return append(text);
         Q().append(AsQChars(text), length);
         return *this;
     }
@@ -176,10 +187,11 @@ public:
         Q().append(QChar(character));
         return *this;
     }
-    // The first n code units of the text.
+    // The first n code units of the text; a negative n appends nothing.
     TString & Append(TString const & text, int n)
     {
-        return append(text.constData(), n < text.length() ? n : text.length());
+        int const most = n < text.length() ? n : text.length();
+        return append(text.constData(), most < 0 ? 0 : most);
     }
     TString & prepend(char16_t character)
     {
@@ -190,20 +202,29 @@ public:
     void push_back(TString const & text) { append(text); }
     void push_front(char16_t character) { prepend(character); }
     void push_front(TString const & text) { Q().prepend(text.toQString()); }
-    // The index must be below the length.
-    char16_t & operator[](int index) { return data()[index]; }
-    char16_t operator[](int index) const noexcept { return View()[static_cast<std::size_t>(index)]; }
+    // The index must be below the length. Templates, so that every integer type finds them before the pointer.
+    template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
+    char16_t & operator[](Index index)
+    {
+        return data()[index];
+    }
+    template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
+    char16_t operator[](Index index) const noexcept
+    {
+        return View()[static_cast<std::size_t>(index)];
+    }
 
+    // n below 0 or above the length gives the whole text.
     TString left(int n) const { return toQString().left(n); }
     TString right(int n) const { return toQString().right(n); }
     // From index `from`; n of -1 means to the end.
     TString mid(int from, int n = -1) const { return toQString().mid(from, n); }
     // Friends, so that they are candidates only where a TString takes part.
-    friend TString operator+(TString const & a, TString const & b) { return TString(a).append(b); }
-    friend TString operator+(TString const & a, char16_t const * b) { return TString(a).append(b); }
-    friend TString operator+(char16_t const * a, TString const & b) { return TString(a).append(b); }
-    friend TString operator+(TString const & a, char16_t b) { return TString(a).append(b); }
-    friend TString operator+(char16_t a, TString const & b) { return TString(a, 1).append(b); }
+    friend TString operator+(TString a, TString const & b) { return std::move(a.append(b)); }
+    friend TString operator+(TString a, char16_t const * b) { return std::move(a.append(b)); }
+    friend TString operator+(char16_t const * a, TString const & b) { return std::move(TString(a).append(b)); }
+    friend TString operator+(TString a, char16_t b) { return std::move(a.append(b)); }
+    friend TString operator+(char16_t a, TString const & b) { return std::move(TString(a, 1).append(b)); }
     TString & removeAt(int from, int n = 1);
     TString & removeAll(char16_t character);
     // Every occurrence of the text of `length` code units.

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 #include "velsys/Export.h"
@@ -26,7 +27,7 @@ public:
     RefCntPtr(T * object) noexcept : m_object(object) { Add(); }
     RefCntPtr(RefCntPtr const & other) noexcept : m_object(other.m_object) { Add(); }
     RefCntPtr(RefCntPtr && other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
-    template <class U>
+    template <class U, std::enable_if_t<std::is_convertible_v<U *, T *>, int> = 0>
     RefCntPtr(RefCntPtr<U, Base> const & other) noexcept : RefCntPtr(other.get())
     {}
     ~RefCntPtr() { Remove(); }

@@ -7,6 +7,7 @@
 
 #include <QtCore/QString>
 
+#include <cstring>
 #include <string_view>
 #include <utility>
 
@@ -21,7 +22,12 @@ public:
     TStringCore(char16_t const * text, int length = -1)
         : m_text(text == nullptr ? QString() : QString(reinterpret_cast<QChar const *>(text), length))
     {}
-    TStringCore(QString text) noexcept : m_text(std::move(text)) {}
+    // A text that Qt does not own (a QStringLiteral, QString::fromRawData) is copied, so that it is always terminated.
+    TStringCore(QString text) : m_text(std::move(text))
+    {
+        if (!m_text.data_ptr().isMutable() && !m_text.isEmpty()) [[unlikely]]
+            m_text = QString(m_text.constData(), m_text.size());
+    }
 
     TStringCore(TStringCore const &) = default;
     TStringCore(TStringCore &&) noexcept = default;
@@ -40,8 +46,9 @@ public:
     }
 
     int length() const noexcept { return static_cast<int>(m_text.size()); }
-    // Never null; terminated by U+0000.
-    char16_t const * constData() const noexcept { return reinterpret_cast<char16_t const *>(m_text.utf16()); }
+    // Never null; terminated by U+0000. Not QString::utf16, which gives an empty string storage of its own on the first
+    // call: several threads may ask here.
+    char16_t const * constData() const noexcept { return reinterpret_cast<char16_t const *>(m_text.constData()); }
     std::u16string_view View() const noexcept
     {
         return {reinterpret_cast<char16_t const *>(m_text.constData()), static_cast<std::size_t>(m_text.size())};
@@ -50,9 +57,20 @@ public:
     QString const & toQString() const noexcept { return m_text; }
     QString & MutableQString() noexcept { return m_text; }
 
-    friend bool operator==(TStringCore const & a, TStringCore const & b) noexcept { return a.View() == b.View(); }
-    friend bool operator==(TStringCore const & a, char16_t const * b) noexcept { return a.View() == b; }
+    friend bool operator==(TStringCore const & a, TStringCore const & b) noexcept { return Equal(a.View(), b.View()); }
+    // A null pointer compares as the empty string.
+    friend bool operator==(TStringCore const & a, char16_t const * b) noexcept
+    {
+        return Equal(a.View(), b == nullptr ? std::u16string_view() : std::u16string_view(b));
+    }
 
 private:
+    // memcmp: std::char_traits<char16_t>::compare goes unit by unit.
+    static bool Equal(std::u16string_view a, std::u16string_view b) noexcept
+    {
+        return a.size() == b.size() &&
+               (a.data() == b.data() || std::memcmp(a.data(), b.data(), sizeof(char16_t) * a.size()) == 0);
+    }
+
     QString m_text;
 };
