@@ -6,8 +6,7 @@
 #include "velcoredata/data/XMLEnumException.h"
 #include "velsys/NoDestructor.h"
 
-namespace
-{
+namespace {
 
 constexpr std::array<char const *, 12> kNames = {"integer", "real",    "string",  "datetime", "boolean", "date",
                                                  "tuple",   "spatial", "unknown", "binary",   "time",    "table"};

@@ -4,13 +4,12 @@
 #include "velcoredata/data/DataType.h"
 #include "velcoreplatform/TString.h"
 
-namespace detail
-{
+namespace detail {
 
 // Throws XMLEnumEncodingException for a number outside the enumeration. The reference lives for the process.
-TString const & DataTypeAttributeName(DataType type);
+VELCOREDATA_API TString const & DataTypeAttributeName(DataType type);
 
 // The same as a literal, or null.
-char const * DataTypeAttributeNameOrNull(DataType type) noexcept;
+VELCOREDATA_API char const * DataTypeAttributeNameOrNull(DataType type) noexcept;
 
 }  // namespace detail

@@ -9,8 +9,7 @@
 #include "velsys/NoDestructor.h"
 #include "velsys/ThrowSite.h"
 
-namespace
-{
+namespace {
 
 // The message of a type error, after it was logged with both type names.
 TString ReportIncorrectType(CoreData::StringId id, DataType expected, DataType actual)
@@ -33,11 +32,10 @@ TString ReportIncorrectType(CoreData::StringId id, DataType expected, DataType a
 
 DataValue::DataValue(DateTime const & value, DataType type) : DataValue()
 {
-    switch (type)
-    {
-        case DataType::DateTime: return SetDatetime(value);
-        case DataType::Date: return SetDate(value);
-        default: VELTRIA_FAIL("false", 0x72FAA0AE);
+    switch (type) {
+    case DataType::DateTime: SetDatetime(value); break;
+    case DataType::Date: SetDate(value); break;
+    default: VELTRIA_FAIL("false", 0x72FAA0AE);
     }
 }
 
@@ -109,11 +107,11 @@ TString DataValue::DataTypeToString(DataType type)
 void DataValue::ThrowIncorrectTypeGet(DataType expected, DataType actual)
 {
     VELTRIA_THROW_NAMED(VeltriaException, IncorrectDatatypeException, 0xCA8336D0, 2, 2,
-                        ReportIncorrectType(CoreData::IDS_ERR_INCORRECT_DATA_TYPE_GET, expected, actual));
+                        ReportIncorrectType(CoreData::StringId::IDS_ERR_INCORRECT_DATA_TYPE_GET, expected, actual));
 }
 
 void DataValue::ThrowIncorrectTypeSet(DataType expected, DataType actual)
 {
     VELTRIA_THROW_NAMED(VeltriaException, IncorrectDatatypeException, 0xCA8336D1, 2, 2,
-                        ReportIncorrectType(CoreData::IDS_ERR_INCORRECT_DATA_TYPE_SET, expected, actual));
+                        ReportIncorrectType(CoreData::StringId::IDS_ERR_INCORRECT_DATA_TYPE_SET, expected, actual));
 }

@@ -4,8 +4,7 @@
 #include "velcoredata/data/DataValue.h"
 #include "velsys/ThrowSite.h"
 
-namespace
-{
+namespace {
 
 using Holder = std::shared_ptr<velgeo::Spatial const>;
 

@@ -3,13 +3,11 @@
 #include "velcoredata/core/LocalStrings.h"
 #include "velsys/ThrowSite.h"
 
-namespace Implementation
-{
+namespace Implementation {
 
 XMLEnumEncodingException::XMLEnumEncodingException(TString const & message, TError::ErrorInfo const & info)
     : VeltriaException(static_cast<TStringCore const &>(message), info)
-{
-}
+{}
 
 XMLEnumEncodingException::XMLEnumEncodingException(XMLEnumEncodingException const &) = default;
 XMLEnumEncodingException & XMLEnumEncodingException::operator=(XMLEnumEncodingException const &) = default;
@@ -28,8 +26,7 @@ void XMLEnumEncodingException::Throw() const
 
 XMLEnumDecodingException::XMLEnumDecodingException(TString const & message, TError::ErrorInfo const & info)
     : VeltriaException(static_cast<TStringCore const &>(message), info)
-{
-}
+{}
 
 XMLEnumDecodingException::XMLEnumDecodingException(XMLEnumDecodingException const &) = default;
 XMLEnumDecodingException & XMLEnumDecodingException::operator=(XMLEnumDecodingException const &) = default;
@@ -48,12 +45,14 @@ void XMLEnumDecodingException::Throw() const
 
 void ThrowXMLEnumEncodingException()
 {
-    VELTRIA_THROW(XMLEnumEncodingException, 0x5D1E6A01, CoreData::LookupTStrExported(CoreData::IDS_ERR_XML_ENUM_ENCODING));
+    VELTRIA_THROW(XMLEnumEncodingException, 0x5D1E6A01,
+                  CoreData::LookupTStrExported(CoreData::StringId::IDS_ERR_XML_ENUM_ENCODING));
 }
 
 void ThrowXMLEnumDecodingException()
 {
-    VELTRIA_THROW(XMLEnumDecodingException, 0x5D1E6A02, CoreData::LookupTStrExported(CoreData::IDS_ERR_XML_ENUM_DECODING));
+    VELTRIA_THROW(XMLEnumDecodingException, 0x5D1E6A02,
+                  CoreData::LookupTStrExported(CoreData::StringId::IDS_ERR_XML_ENUM_DECODING));
 }
 
 }  // namespace Implementation

@@ -10,8 +10,7 @@
 #include "velcoredata/data/DataValue.h"
 #include "velcoredata/data/XMLEnumException.h"
 
-namespace
-{
+namespace {
 
 struct TypeRow
 {
@@ -34,8 +33,7 @@ constexpr TypeRow kTypes[] = {
 
 TEST(DataType, NamesAndPredicatesFollowTheTable)
 {
-    for (TypeRow const & row : kTypes)
-    {
+    for (TypeRow const & row : kTypes) {
         auto const type = static_cast<DataType>(row.number);
         EXPECT_EQ(detail::DataTypeAttributeName(type).toStdString(), row.attributeName);
         EXPECT_EQ(DataValue::DataTypeToString(type).toStdString(), row.upperName);
@@ -47,8 +45,7 @@ TEST(DataType, NamesAndPredicatesFollowTheTable)
 
 TEST(DataType, ANumberOutsideTheEnumerationHasNoAttributeName)
 {
-    for (int const number : {12, 13, 40, 200, 255})
-    {
+    for (int const number : {12, 13, 40, 200, 255}) {
         auto const type = static_cast<DataType>(number);
         EXPECT_THAT([&] { detail::DataTypeAttributeName(type); },
                     ThrowsErrorOf<Implementation::XMLEnumEncodingException>(
@@ -76,13 +73,10 @@ TEST(XMLEnumException, DecodingHasItsOwnClassAndText)
 template <class Exception>
 void ExpectCloneAndThrowKeepTheClass(void (*raise)())
 {
-    try
-    {
+    try {
         raise();
         FAIL();
-    }
-    catch (VeltriaException const & e)
-    {
+    } catch (VeltriaException const & e) {
         std::unique_ptr<VeltriaException> const clone(e.Clone());
         EXPECT_EQ(typeid(*clone), typeid(Exception));
         EXPECT_THROW(clone->Throw(), Exception);

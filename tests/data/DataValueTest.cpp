@@ -13,8 +13,7 @@
 #include "tests/support/ErrorMatchers.h"
 #include "velcoreplatform/TLog.h"
 
-namespace
-{
+namespace {
 
 constexpr char const * kGetError = "VeltriaException_IncorrectDatatypeException_0xCA8336D0";
 constexpr char const * kSetError = "VeltriaException_IncorrectDatatypeException_0xCA8336D1";
@@ -114,8 +113,7 @@ TEST(DataValue, TheCountPastTheDaySurvivesInATime)
 
 TEST(DataValue, ADateConstructorRefusesEveryOtherType)
 {
-    for (int number = 0; number < 12; ++number)
-    {
+    for (int number = 0; number < 12; ++number) {
         auto const type = static_cast<DataType>(number);
         if (type == DataType::DateTime || type == DataType::Date)
             continue;
@@ -196,8 +194,7 @@ TEST(DataValue, SetDateStoresTheDateAlone)
 
 TEST(DataValue, AnInvalidDateBecomesANullSilently)
 {
-    for (unsigned long long const raw : {0ull, DateTime::minGregorianDate - 1, DateTime::maxGregorianDate + 1, ~0ull})
-    {
+    for (unsigned long long const raw : {0ull, DateTime::minGregorianDate - 1, DateTime::maxGregorianDate + 1, ~0ull}) {
         DataValue value(5);
         value.SetDate(DateTime::FromValue(raw));
         ExpectFields(value, {DataType::Date, DataValueTypes::Null, -1, -1, 0, 0});
@@ -231,12 +228,10 @@ TEST(DataValue, MarkersOfTypeTupleAreRefusedAndTheValueKept)
 
 TEST(DataValue, EveryMarkerOfEveryTypeButTupleIsAccepted)
 {
-    for (int type = 0; type < 12; ++type)
-    {
+    for (int type = 0; type < 12; ++type) {
         if (static_cast<DataType>(type) == DataType::Tuple)
             continue;
-        for (int special = 0; special < 10; ++special)
-        {
+        for (int special = 0; special < 10; ++special) {
             auto const marker = static_cast<DataValueTypes::Special>(special);
             DataValue const value(marker, static_cast<DataType>(type));
             ExpectFields(value, {static_cast<DataType>(type), marker, -1, -1, 0, 0});
@@ -297,16 +292,13 @@ constexpr char const * kTypeNames[] = {"integer", "real",    "string",  "datetim
 
 TEST(DataValue, ACheckedReaderNamesBothTypes)
 {
-    for (ReaderRow const & reader : kReaders)
-    {
-        for (int number = 0; number < 12; ++number)
-        {
+    for (ReaderRow const & reader : kReaders) {
+        for (int number = 0; number < 12; ++number) {
             auto const type = static_cast<DataType>(number);
             if (type == DataType::Tuple)
                 continue;
             DataValue const value(DataValueTypes::Null, type);
-            if (type == reader.type)
-            {
+            if (type == reader.type) {
                 EXPECT_NO_THROW(reader.read(value));
                 continue;
             }
@@ -356,10 +348,9 @@ TEST(DataValue, ATypeErrorIsLoggedAsAWarningWithBothTypesAndAStack)
 {
     RecordingLogger logger(true);
     EXPECT_THROW(DataValue(1.5).GetInt(), VeltriaException);
-    EXPECT_THAT(logger.m_calls,
-                testing::ElementsAre("ask 3", "log incorrect-data-type",
-                                     "\"Incorrect data type real, getting expected integer type.\"", "\"real\"",
-                                     "\"integer\""));
+    EXPECT_THAT(logger.m_calls, testing::ElementsAre("ask 3", "log incorrect-data-type",
+                                                     "\"Incorrect data type real, getting expected integer type.\"",
+                                                     "\"real\"", "\"integer\""));
     EXPECT_TRUE(logger.m_hasStack);
 }
 
@@ -450,8 +441,7 @@ TEST(DataValue, EverySetterReleasesASpatialPayload)
             v = other;
         },
     };
-    for (auto const set : setters)
-    {
+    for (auto const set : setters) {
         DataValue value(spatial);
         ASSERT_EQ(spatial.use_count(), 2);
         set(value);
@@ -461,8 +451,9 @@ TEST(DataValue, EverySetterReleasesASpatialPayload)
 
 TEST(DataValue, ANullSpatialPointerIsRefusedAndTheValueKept)
 {
-    EXPECT_THAT([] { DataValue(std::shared_ptr<velgeo::Spatial const>()); },
-                ThrowsError("VeltriaException_AutoGen_0x90F95D59", "DataValue::SetSpatial: cannot construct from null"));
+    EXPECT_THAT(
+        [] { DataValue(std::shared_ptr<velgeo::Spatial const>()); },
+        ThrowsError("VeltriaException_AutoGen_0x90F95D59", "DataValue::SetSpatial: cannot construct from null"));
     DataValue value(5);
     EXPECT_THAT([&] { value.SetSpatial(nullptr); }, ThrowsError("VeltriaException_AutoGen_0x90F95D59"));
     ExpectFields(value, BytesOf(DataValue(5)));
@@ -474,8 +465,7 @@ TEST(DataValue, ScalarsNeverAllocate)
     values.reserve(64);
     auto const date = DateTime(2020, 2, 29, 1, 2, 3, 0.25);
     AllocationCounter const counter;
-    for (int round = 0; round < 8; ++round)
-    {
+    for (int round = 0; round < 8; ++round) {
         values.emplace_back(1);
         values.emplace_back(1.5, static_cast<signed char>(5), static_cast<signed char>(2));
         values.emplace_back(true);

@@ -24,8 +24,7 @@ enum class DataType : std::uint8_t
     Table = 11  // a type of fields and columns; no DataValue holds it
 };
 
-namespace DataValueTypes
-{
+namespace DataValueTypes {
 
 // Comment: the text form of the marker.
 enum Special : std::uint8_t
@@ -66,8 +65,7 @@ constexpr bool IsTemporal(DataType type) noexcept
 // The attribute name, "integer", or "DataType(200)" for a number outside the enumeration.
 VELCOREDATA_API std::ostream & operator<<(std::ostream & out, DataType type);
 
-namespace DataValueTypes
-{
+namespace DataValueTypes {
 // The text form, "%null%"; "normal" for Normal; "Special(77)" for a number outside the enumeration.
 VELCOREDATA_API std::ostream & operator<<(std::ostream & out, Special special);
 }  // namespace DataValueTypes

@@ -23,8 +23,8 @@
 // Example:
 //   DataValue v(5);                                     // Integer
 //   v.SetDecimal(1.5, 5, 2);                            // Real with precision 5 and scale 2
-//   v.GetInt();                                         // raises "Incorrect data type real, getting expected integer type."
-//   DataValue(DataValueTypes::Null, DataType::Integer).GetInt();  // 0: readers test the type, never the marker
+//   v.GetInt();                                         // raises "Incorrect data type real, getting expected integer
+//   type." DataValue(DataValueTypes::Null, DataType::Integer).GetInt();  // 0: readers test the type, never the marker
 #pragma once
 
 #include <bit>
@@ -45,8 +45,7 @@ class BinaryDataValue;
 class Collation;
 struct StringWithCollation;
 class Tuple;
-namespace velgeo
-{
+namespace velgeo {
 class Spatial;
 }
 
@@ -67,8 +66,7 @@ public:
     DataValue(long value) noexcept : DataValue(static_cast<long long>(value)) {}
     DataValue(long long value) noexcept
         : m_head(HeadOf(DataType::Integer)), m_payload(static_cast<std::uint64_t>(value))
-    {
-    }
+    {}
     // Unsigned numbers above the signed range wrap to negative ones.
     DataValue(unsigned value) noexcept : DataValue(static_cast<long long>(value)) {}
     DataValue(unsigned long value) noexcept : DataValue(static_cast<long long>(value)) {}
@@ -77,8 +75,7 @@ public:
     DataValue(double value, signed char precision = -1, signed char scale = -1) noexcept
         : m_head(HeadOf(DataType::Real, DataValueTypes::Normal, precision, scale)),
           m_payload(std::bit_cast<std::uint64_t>(value))
-    {
-    }
+    {}
     DataValue(StringWithCollation && text);
     // Throws "VeltriaException_AutoGen_0xE188009E" for a null pointer.
     DataValue(RefCntPtr<StringWithCollation, RefCntObject> const & text);
@@ -89,8 +86,7 @@ public:
     // The type is not looked at.
     DataValue(Time const & value, DataType) noexcept
         : m_head(HeadOf(DataType::Time)), m_payload(value.GetRepresentation())
-    {
-    }
+    {}
     // Throw as the setters of their types do for a null pointer.
     DataValue(RefCntPtr<BinaryDataValue, RefCntObject> value);
     DataValue(RefCntPtr<Tuple, RefCntObject> value);
@@ -119,8 +115,7 @@ public:
     }
     DataValue & operator=(DataValue const & other)
     {
-        if (this != &other)
-        {
+        if (this != &other) {
             DataValue copy(other);
             Swap(copy);
         }
@@ -128,8 +123,7 @@ public:
     }
     DataValue & operator=(DataValue && other) noexcept
     {
-        if (this != &other)
-        {
+        if (this != &other) {
             if (OwnsPayload())
                 ReleasePayload();
             m_head = other.m_head;
@@ -171,8 +165,8 @@ public:
     // Any marker, Normal too. Throws "VeltriaException_AutoGen_0x230EF8C1" if the type is Tuple.
     void MakeSpecial(DataValueTypes::Special special, DataType type);
 
-    // Readers. The checked ones test the type alone and throw "VeltriaException_IncorrectDatatypeException_0xCA8336D0" if
-    // it is another; the unchecked ones test nothing.
+    // Readers. The checked ones test the type alone and throw "VeltriaException_IncorrectDatatypeException_0xCA8336D0"
+    // if it is another; the unchecked ones test nothing.
     DataType GetDataType() const noexcept { return static_cast<DataType>(m_head & 0xFF); }
     DataValueTypes::Special GetSpecial() const noexcept
     {
@@ -248,14 +242,13 @@ public:
     // Throws unless the type is Spatial. A marker gives an empty pointer.
     std::shared_ptr<velgeo::Spatial const> GetSpatial() const;
 
-    // "INTEGER", "REAL", "STRING", "DATETIME", "BOOLEAN", "DATE", "TUPLE", "SPATIAL"; "UNKNOWN(9)" for every other number.
+    // "INTEGER", "REAL", "STRING", "DATETIME", "BOOLEAN", "DATE", "TUPLE", "SPATIAL"; "UNKNOWN(9)" for every other
+    // number.
     static TString DataTypeToString(DataType type);
 
 private:
-    static constexpr std::uint64_t HeadOf(DataType type,
-                                          DataValueTypes::Special special = DataValueTypes::Normal,
-                                          signed char precision = -1,
-                                          signed char scale = -1,
+    static constexpr std::uint64_t HeadOf(DataType type, DataValueTypes::Special special = DataValueTypes::Normal,
+                                          signed char precision = -1, signed char scale = -1,
                                           std::int32_t ordinal = 0) noexcept
     {
         return static_cast<std::uint64_t>(type) | static_cast<std::uint64_t>(special) << 8 |
@@ -263,10 +256,11 @@ private:
                static_cast<std::uint64_t>(static_cast<unsigned char>(scale)) << 24 |
                static_cast<std::uint64_t>(static_cast<std::uint32_t>(ordinal)) << 32;
     }
-    static constexpr std::uint32_t BitOf(DataType type) noexcept { return 1u << static_cast<unsigned>(type); }
     // Types whose payload is a counted object, and with them the spatial holder.
-    static constexpr std::uint32_t kCounted = BitOf(DataType::String) | BitOf(DataType::Tuple) | BitOf(DataType::Binary);
-    static constexpr std::uint32_t kOwned = kCounted | BitOf(DataType::Spatial);
+    static constexpr std::uint32_t kCounted = 1u << static_cast<unsigned>(DataType::String) |
+                                              1u << static_cast<unsigned>(DataType::Tuple) |
+                                              1u << static_cast<unsigned>(DataType::Binary);
+    static constexpr std::uint32_t kOwned = kCounted | 1u << static_cast<unsigned>(DataType::Spatial);
 
     bool OwnsPayload() const noexcept { return m_payload != 0 && ((kOwned >> (m_head & 31)) & 1) != 0; }
     RefCntObject const * Counted() const noexcept { return reinterpret_cast<RefCntObject const *>(m_payload); }
@@ -284,7 +278,10 @@ private:
         else
             Counted()->RemoveReference();
     }
-    void GiveUpPayload() noexcept { m_head = (m_head & ~std::uint64_t{0xFF}) | static_cast<std::uint64_t>(DataType::Unknown); }
+    void GiveUpPayload() noexcept
+    {
+        m_head = (m_head & ~std::uint64_t{0xFF}) | static_cast<std::uint64_t>(DataType::Unknown);
+    }
     void Store(std::uint64_t head, std::uint64_t payload) noexcept
     {
         if (OwnsPayload())

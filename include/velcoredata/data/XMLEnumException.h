@@ -5,8 +5,7 @@
 #include "velcoreplatform/TString.h"
 #include "velsys/VeltriaException.h"
 
-namespace Implementation
-{
+namespace Implementation {
 
 class VELCOREDATA_API XMLEnumEncodingException : public VeltriaException
 {

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tests/vectors/VectorDriver.h"
+
+#include "velcoredata/data/DataValue.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// Cells that hold values: `I:5`, `R:0x1.8p+0/3/1`, `B:1`, `D:rep`, `DT:rep`, `T:us`, `X:Null:Integer`.
+namespace velcoredata::vectors {
+
+/// Raised for a value of a kind that the library cannot make yet; a driver leaves such a row out.
+class UnsupportedValue : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Throws std::runtime_error for a malformed cell.
+DataValue DecodeValue(std::string_view cell);
+
+/// The fields of a value in the notation of the cells; all NaNs with the bits of the quiet one read `R:nan`.
+std::string EncodeValue(DataValue const & value);
+
+/// Whether the value is what the cell says, field by field; `R:nan` is met by every NaN.
+bool MeetsValueCell(std::string_view cell, DataValue const & value);
+
+/// The number of a type by its name in the tables, "Integer" or "DateTime".
+DataType DecodeTypeName(std::string_view name);
+
+/// Compares the text that the call gives, or the error that it raises, with the cell of the column: `!Name` or
+/// `!Name|message` name an error of the library, `!Class` its class, anything else is the text.
+void ExpectOutcome(Row & row, std::string_view column, std::function<std::string()> const & call);
+
+/// The same for a call that gives a value.
+void ExpectValue(Row & row, std::string_view column, std::function<DataValue()> const & call);
+
+}  // namespace velcoredata::vectors

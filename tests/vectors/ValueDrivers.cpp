@@ -1,0 +1,78 @@
+// Drivers of the tables about making and reading single values.
+#include "main/data/DataTypeNames.h"
+#include "tests/vectors/ValueCells.h"
+#include "tests/vectors/VectorDriver.h"
+
+#include <map>
+
+using namespace velcoredata::vectors;
+
+namespace {
+
+std::string Flag(bool value)
+{
+    return value ? "1" : "0";
+}
+
+using Reader = std::string (*)(DataValue &);
+
+std::map<std::string, Reader, std::less<>> const & Readers()
+{
+    static std::map<std::string, Reader, std::less<>> const readers = {
+        {"GetDataType", [](DataValue & v) { return std::to_string(static_cast<int>(v.GetDataType())); }},
+        {"GetSpecial", [](DataValue & v) { return std::to_string(static_cast<int>(v.GetSpecial())); }},
+        {"IsSpecial", [](DataValue & v) { return Flag(v.IsSpecial()); }},
+        {"IsNull", [](DataValue & v) { return Flag(v.IsNull()); }},
+        {"IsMissing", [](DataValue & v) { return Flag(v.IsMissing()); }},
+        {"GetInt", [](DataValue & v) { return std::to_string(v.GetInt()); }},
+        {"GetReal", [](DataValue & v) { return EncodeReal(v.GetReal()); }},
+        {"GetBool", [](DataValue & v) { return Flag(v.GetBool()); }},
+        {"GetDate", [](DataValue & v) { return std::to_string(v.GetDate().GetRepresentation()); }},
+        {"GetDatetime", [](DataValue & v) { return std::to_string(v.GetDatetime().GetRepresentation()); }},
+        {"GetTime", [](DataValue & v) { return std::to_string(v.GetTime().GetRepresentation()); }},
+        {"GetOrdinal", [](DataValue & v) { return std::to_string(v.GetOrdinal()); }},
+        {"GetPrecision", [](DataValue & v) { return std::to_string(v.GetPrecision()); }},
+        {"GetScale", [](DataValue & v) { return std::to_string(v.GetScale()); }},
+        {"HasPrecision", [](DataValue & v) { return Flag(v.HasPrecision()); }},
+        {"HasScale", [](DataValue & v) { return Flag(v.HasScale()); }},
+        {"GetSpatial", [](DataValue & v) { return std::string(v.GetSpatial() == nullptr ? "null" : "object"); }},
+        {"SetOrdinal3ThenGetOrdinal",
+         [](DataValue & v) {
+             v.SetOrdinal(3);
+             return std::to_string(v.GetOrdinal());
+         }},
+    };
+    return readers;
+}
+
+}  // namespace
+
+VECTOR_DRIVER("values_typenames")
+{
+    auto const type = static_cast<DataType>(row.Int("type"));
+    row.ExpectCell("dataTypeToString", DataValue::DataTypeToString(type).toStdString());
+    ExpectOutcome(row, "attributeName", [&] { return detail::DataTypeAttributeName(type).toStdString(); });
+    row.ExpectBool("isNumeric", IsNumeric(type));
+    row.ExpectBool("isQuantitative", IsQuantitative(type));
+    row.ExpectBool("isTemporal", IsTemporal(type));
+}
+
+VECTOR_DRIVER("values_makedate")
+{
+    auto const when = DateTime::FromValue(row.UInt("representation"));
+    DataType const type = DecodeTypeName(row.Cell("type"));
+    ExpectValue(row, "value", [&] { return DataValue(when, type); });
+}
+
+VECTOR_DRIVER("values_readers")
+{
+    auto const reader = Readers().find(row.Cell("reader"));
+    if (reader == Readers().end())
+        return row.Skip("readers of strings, tuples and binary data");
+    try {
+        DataValue value = DecodeValue(row.Cell("value"));
+        ExpectOutcome(row, "result", [&] { return reader->second(value); });
+    } catch (UnsupportedValue const & e) {
+        row.Skip(e.what());
+    }
+}
