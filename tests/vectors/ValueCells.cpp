@@ -148,7 +148,9 @@ void ExpectOutcome(Row & row, std::string_view column, std::function<std::string
     } catch (Implementation::XMLEnumEncodingException const &) {
         row.Expect(column, expected, "!XMLEnumEncodingException");
     } catch (LogicException const & e) {
-        row.Expect(column, expected, "!assert:" + e.GetConcatenatedMessages().toQString().toStdString());
+        std::string const text = "!assert:" + e.GetConcatenatedMessages().toQString().toStdString();
+        std::string const name = "!" + e.GetErrorInfo().GetError().GetName().toQString().toStdString();
+        row.Expect(column, expected, expected.starts_with("!assert:") ? text : name);
     } catch (VeltriaException const & e) {
         std::string actual = "!" + e.GetErrorInfo().GetError().GetName().toQString().toStdString();
         if (expected.find('|') != std::string::npos)

@@ -52,9 +52,21 @@ public:
         std::string line = Name(severity);
         line += ": " + event.GetName().toStdString();
         if (event.GetValue() != nullptr)
-            line += ' ' + event.GetValue()->ToText().toStdString();
+            line += ' ' + TextOf(*event.GetValue(), severity).toStdString();
         line += '\n';
         std::fwrite(line.data(), 1, line.size(), stderr);
+    }
+
+private:
+    // A stack is worth its length only where something broke.
+    static TString TextOf(TLog::Value const & value, TLog::AnySeverity const & severity)
+    {
+        auto const * const object = dynamic_cast<TLog::Object const *>(&value);
+        if (object == nullptr || static_cast<TLog::Severity>(severity) >= TLog::Severity::Error)
+            return value.ToText();
+        TLog::Object::Fields fields = object->GetFields();
+        fields.erase(u"stack");
+        return TLog::Object::Make(std::move(fields))->ToText();
     }
 };
 

@@ -1,7 +1,7 @@
 // Logging: severities, structured events and the replaceable process logger.
 //
 // An event has a name and a value (text, object of named values, stack trace). The default logger writes events of
-// severity Warn and above to standard error, one line each. Everything here may be called from any thread; values are
+// severity Warn and above to standard error, one line each, a stack only from Error on. Everything here may be called from any thread; values are
 // immutable once made.
 #pragma once
 
