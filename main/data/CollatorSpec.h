@@ -31,8 +31,8 @@ VELCOREDATA_API CollatorSpec ParseCollatorName(char16_t const * name);
 VELCOREDATA_API void NormalizeCollatorTokens(ColAttributeList const & attributes, std::vector<TString> & tokens);
 
 // The tokens of a name; none for a null or empty one.
-std::vector<TString> SplitCollatorName(char16_t const * name);
-TString JoinCollatorTokens(std::vector<TString> const & tokens);
+VELCOREDATA_API std::vector<TString> SplitCollatorName(char16_t const * name);
+VELCOREDATA_API TString JoinCollatorTokens(std::vector<TString> const & tokens);
 
 // `name` with one attribute rewritten. "binary" in any case is an assertion.
 VELCOREDATA_API TString WithCollatorAttribute(char16_t const * name, int attribute, int value);
