@@ -1,11 +1,3 @@
 #include "velsys/RefCntObject.h"
 
-#include "velsys/RefCntPtr.h"
-#include "velsys/ThrowSite.h"
-
 RefCntObject::~RefCntObject() = default;
-
-void detail::ThrowNullPointerDereferenced()
-{
-    VELTRIA_FAIL("Null pointer dereferenced", 0x00BF554A);
-}
