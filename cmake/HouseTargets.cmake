@@ -1,9 +1,10 @@
 # Functions that give every target of one kind the same shape.
 
-# velcoredata_library(<target>): a shared library of this project, installed and exported under the
-# namespace velcoredata::, that finds its neighbours beside itself.
-function(velcoredata_library target)
+# velcoredata_library(<target> <include folder>): a shared library of this project, installed with its headers and
+# exported under the namespace velcoredata::, that finds its neighbours beside itself.
+function(velcoredata_library target include_dir)
     add_library(${target} SHARED)
+    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${include_dir}")
     add_library(velcoredata::${target} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         LINKER_LANGUAGE CXX

@@ -2,7 +2,9 @@
 """Checks the includes of the source tree. usage: include_rooms.py [TOP]
 
 A room is a header with its source: include/velcoredata/data/X.h, main/data/X.h and main/data/X.cpp are the room
-data/X; platform/velsys/include/velsys/X.h and platform/velsys/src/X.cpp are velsys/X. Prints one line for each
+data/X; platform/velsys/include/velsys/X.h and platform/velsys/src/X.cpp are velsys/X. A private header H.h without
+a source, that completes a room's public header for its source (H.h includes X.h, X.cpp includes H.h), is the inner
+half of that room. Prints one line for each
 
   - circle of includes between rooms,
   - include of a layer that the including layer does not link,
@@ -74,6 +76,26 @@ def resolve(spelling, file, by_path):
     return next((by_path[c] for c in candidates if c in by_path), None)
 
 
+def merge_inner_halves(files, edges, file_edges):
+    """Edges between rooms once each inner half is counted to its room; an inner half of two rooms stays apart."""
+    with_source = {file.room for file in files if file.path.endswith(".cpp")}
+    public = {file.room for file in files if file.public}
+    outer = {}
+    for room in edges:
+        if room in with_source or room in public:
+            continue
+        rooms = {f.room for f, targets in file_edges.items()
+                 if f.path.endswith(".cpp") and room in targets and f.room in edges[room] and f.room in public}
+        if len(rooms) == 1:
+            outer[room] = rooms.pop()
+    merged = {}
+    for room, targets in edges.items():
+        here = outer.get(room, room)
+        merged.setdefault(here, set()).update(outer.get(t, t) for t in targets)
+        merged[here].discard(here)
+    return merged
+
+
 def circles(edges):
     """Strongly connected groups of more than one room (Tarjan's algorithm, without recursion)."""
     index, low, stack, on_stack, groups = {}, {}, [], set(), []
@@ -113,6 +135,7 @@ def check(top):
     files = list(source_files(top))
     by_path = {file.path: file for file in files}
     edges = {file.room: set() for file in files}
+    file_edges = {file: set() for file in files}
     sources_of = {name: [] for name in ONE_SOURCE}
     faults = []
     for file in files:
@@ -124,6 +147,7 @@ def check(top):
             if target:
                 if target.room != file.room:
                     edges[file.room].add(target.room)
+                    file_edges[file].add(target.room)
                 if target.layer != file.layer and target.layer not in BELOW.get(file.layer, set()):
                     faults.append(f"{file.path}: {file.layer} may not include {target.layer} ({spelling})")
                 if file.public and not target.public:
@@ -141,7 +165,7 @@ def check(top):
     for kind, paths in sources_of.items():
         if len(paths) > 1:
             faults.append(f"{kind} belongs in one source: {', '.join(paths)}")
-    for group in circles(edges):
+    for group in circles(merge_inner_halves(files, edges, file_edges)):
         faults.append("circle of includes: " + ", ".join(group))
     return faults
 

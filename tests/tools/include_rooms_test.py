@@ -23,8 +23,29 @@ class IncludeRooms(unittest.TestCase):
     def test_a_header_and_its_source_are_one_room(self):
         self.assertEqual(self.faults({
             "include/velcoredata/data/A.h": [],
-            "main/data/A.cpp": ['"velcoredata/data/A.h"', '"main/data/B.h"'],
-            "main/data/B.h": ['"velcoredata/data/A.h"'],
+            "include/velcoredata/data/B.h": ['"velcoredata/data/A.h"'],
+            "main/data/A.cpp": ['"velcoredata/data/A.h"', '"velcoredata/data/B.h"'],
+        }), ["circle of includes: data/A, data/B"])
+
+    def test_a_private_header_may_be_the_inner_half_of_one_room(self):
+        halves = {
+            "include/velcoredata/data/A.h": [],
+            "main/data/A.cpp": ['"velcoredata/data/A.h"', '"main/data/AInside.h"'],
+            "main/data/AInside.h": ['"velcoredata/data/A.h"'],
+            "main/data/AText.cpp": ['"main/data/AInside.h"'],
+        }
+        self.assertEqual(self.faults(halves), [])
+        self.assertEqual(self.faults({**halves, "main/data/AInside.cpp": []}),
+                         ["circle of includes: data/A, data/AInside"])
+
+    def test_inner_halves_make_no_circle_between_rooms(self):
+        self.assertEqual(self.faults({
+            "include/velcoredata/data/A.h": [],
+            "include/velcoredata/data/B.h": [],
+            "main/data/A.cpp": ['"velcoredata/data/A.h"', '"main/data/AInside.h"'],
+            "main/data/B.cpp": ['"velcoredata/data/B.h"', '"main/data/BInside.h"'],
+            "main/data/AInside.h": ['"velcoredata/data/A.h"', '"velcoredata/data/B.h"'],
+            "main/data/BInside.h": ['"velcoredata/data/B.h"', '"velcoredata/data/A.h"'],
         }), ["circle of includes: data/A, data/B"])
 
     def test_a_circle_through_three_headers_is_found(self):
