@@ -6,9 +6,7 @@
 #include <oneapi/tbb/concurrent_unordered_map.h>
 
 #include "main/data/BinaryCollator.h"
-#include "main/data/CollatorAttributes.h"
 #include "main/data/ICUCollatorPool.h"
-#include "velsys/Hash.h"
 #include "velsys/NoDestructor.h"
 
 namespace
@@ -34,11 +32,6 @@ PoolTable & GetPoolTable()
 }
 
 }  // namespace
-
-std::size_t CollatorPoolKey::GetHashCode() const
-{
-    return THashCombine32(HashOf(name), flags);
-}
 
 CollatorPool & GetBinaryCollatorPool()
 {

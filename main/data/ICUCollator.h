@@ -6,7 +6,8 @@
 
 #include "main/data/CollatorSpec.h"
 #include "velcoredata/data/Collator.h"
-#include "velcoredata/data/CollatorPools.h"
+#include "velcoredata/data/CollatorPool.h"
+#include "velcoredata/data/CollatorPoolKey.h"
 #include "velicu/ICUCollator.h"
 #include "velsys/TStringCore.h"
 

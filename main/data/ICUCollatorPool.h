@@ -4,7 +4,7 @@
 
 #include "main/data/CollatorSpec.h"
 #include "velcoredata/data/CollatorPool.h"
-#include "velcoredata/data/CollatorPools.h"
+#include "velcoredata/data/CollatorPoolKey.h"
 
 class ICUCollator;
 

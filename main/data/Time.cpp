@@ -6,7 +6,7 @@
 #include <ostream>
 
 #include "main/data/DateTimeErrors.h"
-#include "velcoredata/data/Interval.h"
+#include "velsys/Arithmetic.h"
 #include "velsys/ThrowSite.h"
 
 namespace {
@@ -36,56 +36,6 @@ Time::Time(unsigned hour, unsigned minute, unsigned second, double fraction) : m
     if (!AreParts(hour, minute, second, micro))
         VELTRIA_THROW(VeltriaException, 0x22D59FE2, detail::InvalidDateTimeText());
     m_micros = Compose(hour, minute, second, micro);
-}
-
-Time::operator Interval() const noexcept
-{
-    return Interval(static_cast<long long>(m_micros));
-}
-
-Interval Time::operator-(Time const & other) const noexcept
-{
-    return Interval(static_cast<long long>(m_micros - other.m_micros));
-}
-
-void Time::MoveForward(unsigned long long micros) noexcept
-{
-    m_micros = (m_micros + micros) % MicrosecondsPerDay;
-}
-
-void Time::MoveBack(unsigned long long micros) noexcept
-{
-    m_micros = m_micros > micros ? m_micros - micros : m_micros - micros + MicrosecondsPerDay;
-}
-
-Time Time::operator+=(Interval interval) noexcept
-{
-    long long const part = interval.GetTimePart();
-    if (part < 0)
-        MoveBack(detail::Magnitude(part));
-    else
-        MoveForward(detail::Magnitude(part));
-    return *this;
-}
-
-Time Time::operator-=(Interval interval) noexcept
-{
-    long long const part = interval.GetTimePart();
-    if (part >= 1)
-        MoveBack(detail::Magnitude(part));
-    else
-        MoveForward(detail::Magnitude(part));
-    return *this;
-}
-
-Time Time::operator+(Interval interval) const noexcept
-{
-    return Time(*this) += interval;
-}
-
-Time Time::operator-(Interval interval) const noexcept
-{
-    return Time(*this) -= interval;
 }
 
 bool Time::IsFractionRounded(double fraction)

@@ -1,23 +1,8 @@
 #pragma once
 
-#include <cstddef>
-
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/CollatorPool.h"
-#include "velcoreplatform/TString.h"
-
-// What a pool is made for: a collator name and Windows compare flags. Equal when both parts are.
-struct VELCOREDATA_API CollatorPoolKey
-{
-    TString name;
-    unsigned flags = 0;
-
-    friend bool operator==(CollatorPoolKey const & a, CollatorPoolKey const & b)
-    {
-        return a.flags == b.flags && a.name == b.name;
-    }
-    std::size_t GetHashCode() const;
-};
+#include "velcoredata/data/CollatorPoolKey.h"
 
 // The pool of the name "binary": one stateless collator for all threads. Never freed.
 VELCOREDATA_API CollatorPool & GetBinaryCollatorPool();
