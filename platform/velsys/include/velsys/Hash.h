@@ -3,6 +3,7 @@
 // Algorithm: XXH3 (xxHash 0.8), folded to 32 bits as low ^ high.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -12,10 +13,13 @@
 // Hash of `bytes` bytes at `data`. A null pointer is allowed with zero bytes.
 VELSYS_API unsigned THash32(void const * data, std::size_t bytes, unsigned seed);
 
-// Folds one hash into another. The order of the arguments matters: THashCombine32(a, b) != THashCombine32(b, a).
+// Folds one hash into another. The order of the arguments matters: THashCombine32(a, b) != THashCombine32(b, a). Small
+// numbers are as good as hashes: the value is spread over all bits before it meets the seed (the block step of
+// MurmurHash3).
 constexpr unsigned THashCombine32(unsigned value, unsigned seed) noexcept
 {
-    unsigned h = seed ^ (value + 0x9e3779b9u + (seed << 6) + (seed >> 2));
+    unsigned const spread = std::rotl(value * 0xcc9e2d51u, 15) * 0x1b873593u;
+    unsigned h = std::rotl(seed ^ spread, 13) * 5u + 0xe6546b64u;
     h ^= h >> 16;
     h *= 0x85ebca6bu;
     h ^= h >> 13;
@@ -24,7 +28,8 @@ constexpr unsigned THashCombine32(unsigned value, unsigned seed) noexcept
 
 constexpr unsigned long long THashCombine(unsigned long long value, unsigned long long seed) noexcept
 {
-    unsigned long long h = seed ^ (value + 0x9e3779b97f4a7c15ull + (seed << 12) + (seed >> 4));
+    unsigned long long const spread = std::rotl(value * 0x87c37b91114253d5ull, 31) * 0x4cf5ad432745937full;
+    unsigned long long h = std::rotl(seed ^ spread, 27) * 5u + 0x52dce729u;
     h ^= h >> 32;
     h *= 0xff51afd7ed558ccdull;
     h ^= h >> 29;
