@@ -6,6 +6,7 @@
 #include <oneapi/tbb/concurrent_unordered_map.h>
 
 #include "main/data/BinaryCollator.h"
+#include "main/data/CollatorAttributes.h"
 #include "main/data/ICUCollatorPool.h"
 #include "velsys/NoDestructor.h"
 
