@@ -1,5 +1,6 @@
 #include "tests/vectors/ValueCells.h"
 
+#include "velcoredata/data/Collation.h"
 #include "velcoredata/data/XMLEnumException.h"
 #include "velsys/LogicException.h"
 #include "velsys/VeltriaException.h"
@@ -110,8 +111,11 @@ DataValue DecodeValue(std::string_view cell)
         return DataValue(static_cast<DataValueTypes::Special>(IndexOf(kSpecials, parts.at(0))),
                          DecodeTypeName(parts.at(1)));
     }
-    if (kind == "S")
-        throw UnsupportedValue("strings cannot be made yet");
+    if (kind == "S") {
+        std::size_t const name = rest.find(':');
+        return DataValue(Collation(TString::fromView(DecodeText(rest.substr(0, name))), 0),
+                         TString::fromView(DecodeText(rest.substr(name + 1))));
+    }
     if (kind == "BIN")
         throw UnsupportedValue("binary data cannot be made yet");
     throw std::runtime_error("not a value: " + std::string(cell));

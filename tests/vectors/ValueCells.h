@@ -9,7 +9,8 @@
 #include <string>
 #include <string_view>
 
-/// Cells that hold values: `I:5`, `R:0x1.8p+0/3/1`, `B:1`, `D:rep`, `DT:rep`, `T:us`, `X:Null:Integer`.
+/// Cells that hold values: `I:5`, `R:0x1.8p+0/3/1`, `B:1`, `D:rep`, `DT:rep`, `T:us`,
+/// `S:LEN_RUS_S2:text`, `X:Null:Integer`.
 namespace velcoredata::vectors {
 
 /// Raised for a value of a kind that the library cannot make yet; a driver leaves such a row out.

@@ -2,6 +2,7 @@
 #include "main/data/DataTypeNames.h"
 #include "tests/vectors/ValueCells.h"
 #include "tests/vectors/VectorDriver.h"
+#include "velcoredata/data/Collation.h"
 
 #include <map>
 
@@ -30,6 +31,8 @@ std::map<std::string, Reader, std::less<>> const & Readers()
         {"GetDate", [](DataValue & v) { return std::to_string(v.GetDate().GetRepresentation()); }},
         {"GetDatetime", [](DataValue & v) { return std::to_string(v.GetDatetime().GetRepresentation()); }},
         {"GetTime", [](DataValue & v) { return std::to_string(v.GetTime().GetRepresentation()); }},
+        {"GetString", [](DataValue & v) { return EscapeText(v.GetString().View()); }},
+        {"GetCollationName", [](DataValue & v) { return v.GetCollation().GetName().toStdString(); }},
         {"GetOrdinal", [](DataValue & v) { return std::to_string(v.GetOrdinal()); }},
         {"GetPrecision", [](DataValue & v) { return std::to_string(v.GetPrecision()); }},
         {"GetScale", [](DataValue & v) { return std::to_string(v.GetScale()); }},
@@ -73,7 +76,7 @@ VECTOR_DRIVER("values_readers")
     }
     auto const reader = Readers().find(row.Cell("reader"));
     if (reader == Readers().end())
-        return row.Skip("readers of strings, tuples and binary data");
+        return row.Skip("readers of tuples and binary data");
     try {
         DataValue value = DecodeValue(row.Cell("value"));
         ExpectOutcome(row, "result", [&] { return reader->second(value); });
