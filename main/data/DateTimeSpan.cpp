@@ -1,6 +1,5 @@
 #include "velcoredata/data/DateTimeSpan.h"
 
-#include <cmath>
 #include <ostream>
 
 #include "main/data/TickRounding.h"
