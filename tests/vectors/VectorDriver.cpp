@@ -1,5 +1,7 @@
 #include "tests/vectors/VectorDriver.h"
 
+#include "velsys/VeltriaException.h"
+
 #include <algorithm>
 #include <exception>
 #include <fstream>
@@ -172,6 +174,9 @@ std::string DescribeCurrentException()
 {
     try {
         throw;
+    } catch (VeltriaException const & error) {
+        return "!" + EscapeText(error.GetErrorInfo().GetError().GetName().View()) + "|" +
+               EscapeText(error.GetConcatenatedMessages().View());
     } catch (std::exception const & error) {
         return error.what();
     } catch (...) {

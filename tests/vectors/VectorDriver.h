@@ -79,7 +79,7 @@ using Drivers = std::map<std::string, Driver, std::less<>>;
 /// The drivers of this program by table name without the ending.
 Drivers & RegisteredDrivers();
 
-/// Text of the exception in flight, for a failing row: `!Name` for an error of the library, else its `what()`.
+/// Text of the exception in flight, for a failing row: `!Name|message` for an error of the library, else its `what()`.
 /// Call it in a catch block only.
 std::string DescribeCurrentException();
 

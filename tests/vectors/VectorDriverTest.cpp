@@ -1,5 +1,8 @@
 #include "tests/vectors/VectorDriver.h"
 
+#include "velsys/ThrowSite.h"
+#include "velsys/VeltriaException.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -169,6 +172,14 @@ TEST_F(VectorFolder, ARowFailsWhenNothingIsComparedOrTheDriverThrowsOrCellsAreMi
     Write("sums.tsv", "a\tb\tsum\n1\t2\n");
     EXPECT_EQ(Run({{"sums", SumDriver}}), 1);
     EXPECT_NE(err_.str().find("2 cells under 3 columns"), std::string::npos);
+}
+
+TEST_F(VectorFolder, AnErrorOfTheLibraryIsShownByNameAndMessage)
+{
+    Write("sums.tsv", "a\tb\tsum\n1\t2\t3\n");
+    EXPECT_EQ(Run({{"sums", [](Row &) { VELTRIA_THROW(VeltriaException, 0x00000001, TStringCore(u"no \u00E4")); }}}),
+              1);
+    EXPECT_NE(err_.str().find("raised !VeltriaException_AutoGen_0x00000001|no \\u00E4\n"), std::string::npos);
 }
 
 TEST_F(VectorFolder, OnlyTheFirstFailuresAreShown)
