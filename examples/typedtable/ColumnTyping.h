@@ -1,0 +1,45 @@
+// ColumnTyping: the type of a column, found by looking at its cells, and the typed value of a cell.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "velcoredata/data/DataType.h"
+#include "velcoredata/data/DataValue.h"
+
+namespace typedtable {
+
+/// A cell as a value of a type; nothing if it cannot be read as one. Blanks and tabs around anything but text are
+/// ignored, and a cell of nothing else is the null of the type. What each type reads:
+///
+///   Integer   an optional sign and digits within 64 signed bits: `42`, `-7`. Not `007`: a leading zero marks an
+///             identifier, which as a number would lose it
+///   Real      the same with a point, an exponent or both: `0.5`, `.5`, `1e-3`; and every Integer and whole number
+///             beyond 64 bits. Not `inf`, `nan` or what a double cannot hold
+///   Boolean   `true` and `false` in any case
+///   Date      yyyy-MM-dd: a day of the years 0400 to 9999
+///   DateTime  yyyy-MM-dd, a T or a blank, HH:mm, then perhaps :ss, then perhaps a point and 1 to 9 digits, rounded to
+///             1/10000 second; and every Date as its midnight. No time zone. Up to 9999-12-31 23:59:59.0000
+///   String    every cell, with its blanks
+///
+/// Only these types are asked for.
+std::optional<DataValue> ReadCell(std::string_view cell, DataType type);
+
+/// Gathers the type of one column. Every cell that is not null narrows it: cells of one type give this type, integers
+/// with reals give Real, dates with date-times give DateTime, everything else String. So does a column of nulls alone.
+class ColumnTyping
+{
+public:
+    void Add(std::string_view cell);
+
+    DataType GetType() const noexcept { return m_type == DataType::Unknown ? DataType::String : m_type; }
+
+    /// Empty cells, and those of blanks and tabs alone.
+    long long GetNulls() const noexcept { return m_nulls; }
+
+private:
+    DataType m_type = DataType::Unknown;
+    long long m_nulls = 0;
+};
+
+}  // namespace typedtable

@@ -1,0 +1,167 @@
+#include "typedtable/GroupBy.h"
+
+#include <cstdio>
+#include <ostream>
+#include <utility>
+
+#include "typedtable/UserError.h"
+#include "typedtable/ValueText.h"
+#include "velcoredata/data/DateTime.h"
+#include "velcoredata/data/DateTimeUtils.h"
+#include "velcoreplatform/TString.h"
+#include "velsys/VeltriaException.h"
+
+namespace typedtable {
+
+namespace {
+
+std::string TypeName(DataType type)
+{
+    return DataValue::DataTypeToString(type).toStdString();
+}
+
+template <class... Numbers>
+DataValue FormattedText(char const * format, Numbers... numbers)
+{
+    char text[40];
+    int const length = std::snprintf(text, sizeof text, format, numbers...);
+    return DataValue::FromString(TString::fromUtf8(text, length));
+}
+
+}  // namespace
+
+GroupBy::GroupBy(GroupByRequest const & request, Schema const & schema)
+    : m_request(request), m_schema(schema), m_dateColumn(schema.Find(request.column))
+{
+    DataType const dateType = schema.columns[m_dateColumn].type;
+    if (!IsTemporal(dateType))
+        throw TableError("--group-by: column \"" + request.column + "\" is " + TypeName(dateType) +
+                         ", not DATE or DATETIME");
+    for (auto const & item : request.items) {
+        std::size_t const column = item.kind == AggregateKind::Count ? m_dateColumn : schema.Find(item.column);
+        DataType const type = schema.columns[column].type;
+        if (!CanAggregate(item.kind, type))
+            throw TableError(std::string("--") + NameOf(item.kind) + ": column \"" + item.column + "\" is " +
+                             TypeName(type) +
+                             (CanAggregate(item.kind, DataType::Date) ? ", not a number or a date" : ", not a number"));
+        m_items.push_back({item.kind, column, type});
+    }
+}
+
+std::vector<std::size_t> GroupBy::GetColumns() const
+{
+    std::vector<std::size_t> columns{m_dateColumn};
+    for (Item const & item : m_items)
+        columns.push_back(item.column);
+    return columns;
+}
+
+void GroupBy::Add(TypedReader const & row)
+{
+    DataValue const start = StartOf(row.GetValue(m_dateColumn), row.GetLine());
+    auto const [place, isNew] = m_groups.try_emplace(start.GetAny());
+    Group & group = place->second;
+    if (isNew) {
+        group.start = start;
+        for (Item const & item : m_items)
+            group.aggregates.emplace_back(item.kind, item.type);
+    }
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        group.aggregates[i].Add(row.GetValue(m_items[i].column));
+}
+
+DataValue GroupBy::StartOf(DataValue const & date, long long line) const
+{
+    if (date.IsNull())
+        return DataValue(DataValueTypes::Null, DataType::Date);
+    DateTime const day = date.GetDataType() == DataType::Date ? date.GetDate() : date.GetDatetime();
+    try {
+        return DataValue::FromDate(FindStartOfPeriod(day, m_request.period, *m_request.options));
+    } catch (VeltriaException const &) {
+        throw TableError(line, "the " + m_request.periodName + " of " + ValueText(date) +
+                                   " begins before the year 400, where the calendar ends");
+    }
+}
+
+// Weeks have a name in the ISO calendar alone, where they begin on Monday; days are named by their date.
+bool GroupBy::HasNames() const
+{
+    switch (m_request.period) {
+    case DatePeriodType::Year:
+    case DatePeriodType::Quarter:
+    case DatePeriodType::Month:
+    case DatePeriodType::ISOYear:
+    case DatePeriodType::ISOQuarter: return true;
+    case DatePeriodType::ISOWeek: return m_request.options->GetStartOfWeek() == SOW_MONDAY;
+    default: return false;
+    }
+}
+
+DataValue GroupBy::NameOfPeriod(DataValue const & start) const
+{
+    if (start.IsNull())
+        return DataValue(DataValueTypes::Null, DataType::String);
+    DateTime const day = start.GetDate();
+    FYSValues const fiscalStart = m_request.options->GetFiscalYearStart();
+    // A fiscal year is named for the calendar year in which it ends.
+    char const * const fiscal = fiscalStart == FYS_JANUARY ? "" : "FY";
+    switch (m_request.period) {
+    case DatePeriodType::Year: return FormattedText("%s%04d", fiscal, day.GetFiscalYear(fiscalStart));
+    case DatePeriodType::Quarter:
+        return FormattedText("%s%04d Q%d", fiscal, day.GetFiscalYear(fiscalStart), day.GetFiscalQuarter(fiscalStart));
+    case DatePeriodType::Month: return FormattedText("%04d-%02d", day.GetYear(), day.GetMonth());
+    case DatePeriodType::ISOYear: return FormattedText("%04d", day.GetISO8601Year());
+    case DatePeriodType::ISOQuarter: return FormattedText("%04d-Q%d", day.GetISO8601Year(), day.GetISO8601Quarter());
+    default: return FormattedText("%04d-W%02d", day.GetISO8601Year(), day.GetISO8601Week());
+    }
+}
+
+Table GroupBy::GetResult() const
+{
+    Table table;
+    bool const hasNames = HasNames();
+    table.columns.push_back({m_request.column + ":" + m_request.periodName, DataType::Date});
+    if (hasNames)
+        table.columns.push_back({m_request.periodName, DataType::String});
+    for (Item const & item : m_items) {
+        std::string name = NameOf(item.kind);
+        if (item.kind != AggregateKind::Count)
+            name += "(" + m_schema.columns[item.column].name + ")";
+        table.columns.push_back({std::move(name), ResultType(item.kind, item.type)});
+    }
+    for (auto const & [key, group] : m_groups) {
+        std::vector<DataValue> row{group.start};
+        if (hasNames)
+            row.push_back(NameOfPeriod(group.start));
+        for (Aggregate const & aggregate : group.aggregates)
+            row.push_back(aggregate.GetResult());
+        table.rows.push_back(std::move(row));
+    }
+    return table;
+}
+
+void GroupBy::PrintSpan(std::ostream & out) const
+{
+    auto first = m_groups.begin();
+    std::size_t count = m_groups.size();
+    if (count != 0 && first->second.start.IsNull()) {
+        ++first;
+        --count;
+    }
+    if (count == 0)
+        return;
+    DateTime const begin = first->second.start.GetDate();
+    DateTime const end = m_groups.rbegin()->second.start.GetDate();
+    // ISO weeks are counted from Monday to Monday whatever the options say; weeks by the options.
+    DatePeriodType const counted =
+        m_request.period == DatePeriodType::ISOWeek ? DatePeriodType::Week : m_request.period;
+    long long const periods = DatePeriodDifference(end, begin, counted, *m_request.options) + 1;
+    long long const empty = periods - static_cast<long long>(count);
+    out << periods << (periods == 1 ? " period" : " periods") << " from " << ValueText(first->second.start) << " to "
+        << ValueText(m_groups.rbegin()->second.start);
+    if (empty != 0)
+        out << ", " << empty << " of them without rows";
+    out << '\n';
+}
+
+}  // namespace typedtable

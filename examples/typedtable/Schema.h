@@ -1,0 +1,41 @@
+// Schema: the columns of a CSV file and their types.
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "typedtable/ByteSource.h"
+#include "typedtable/Table.h"
+
+namespace typedtable {
+
+/// What one reading of a whole file tells about it.
+struct Schema
+{
+    struct Column
+    {
+        std::string name;  // UTF-8; "column 3" where the header has an empty cell
+        DataType type;     // one of those that ReadCell reads
+        long long nulls;
+    };
+
+    std::vector<Column> columns;
+    long long rows = 0;  // without the header
+    Table firstRows;
+
+    /// The index of the column of this name. Throws UserError if there is none, or more than one.
+    std::size_t Find(std::string const & name) const;
+};
+
+/// Reads a CSV file to its end, in memory for one record and the first `firstRows` rows. A column's type is known only
+/// at the end, so values of more rows take a second reading (TypedReader). Throws TableError for what CsvReader refuses
+/// and for a file without a header.
+Schema ReadSchema(ByteSource & source, std::size_t firstRows);
+
+/// The number of rows and columns, the columns with their types and counts of nulls, and the first rows if there are
+/// any.
+void PrintSchema(std::ostream & out, std::string const & fileName, Schema const & schema);
+
+}  // namespace typedtable
