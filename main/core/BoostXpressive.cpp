@@ -124,7 +124,7 @@ struct UnicodeTraits
             auto const c = static_cast<char16_t>(*begin);
             if (c >= 0x80)
                 return 0;
-            name += static_cast<char>(c);
+            name += static_cast<char>(c >= u'A' && c <= u'Z' ? c + 0x20 : c);  // \S asks for "S" and negates
         }
         auto const found = std::find_if(classNames.begin(), classNames.end(),
                                         [&name](ClassName const & candidate) { return candidate.name == name; });

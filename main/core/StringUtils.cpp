@@ -63,7 +63,7 @@ public:
         FindQuotes(start);
         if (m_firstQuote < 0 || found <= m_firstQuote)
             return found;
-        return m_text.indexOf(m_separator, m_secondQuote + m_quote.length());
+        return m_text.indexOf(m_separator, m_secondQuote + 1);
     }
 
 private:
@@ -76,7 +76,7 @@ private:
         m_firstQuote = m_text.indexOf(m_quote, start);
         if (m_firstQuote < 0)
             return;
-        m_secondQuote = m_text.indexOf(m_quote, m_firstQuote + m_quote.length());
+        m_secondQuote = m_text.indexOf(m_quote, m_firstQuote + 1);
         if (m_secondQuote < 0)
             VELTRIA_THROW(VeltriaException, 0x79B9C33C,
                           CoreData::LookupTFormatStrExported(CoreData::StringId::IDP_STRINGUTILS_MISMATCH_QUOTE)

@@ -108,7 +108,7 @@ VELCOREDATA_API TString CUnescape(TString const & text);
 //   HexDecode of what stands between the quotes of HexEncode(t) gives t    for well-formed t without U+0000
 
 /// The UTF-8 bytes in upper-case digits: "x'C3A9'" for U+00E9, "x''" for the empty text. Stops at a U+0000. A lone
-/// surrogate is written as U+FFFD, "EFBFBD".
+/// surrogate is written as a question mark, "3F".
 VELCOREDATA_API TString HexEncode(TString const & text);
 
 /// Reads pairs of digits of either case as bytes of UTF-8; ill-formed sequences become U+FFFD. A zero byte ends the
@@ -143,6 +143,6 @@ VELCOREDATA_API void DeleteBetween(TString & text, TString const & open, TString
 ///   ObfuscateSecretsInString(u"password=abc def")   // "PASSWORD=******** def"
 ///   ObfuscateSecretsInString(u"token=a;rest")       // "TOKEN=********rest"
 ///
-///   the result holds no value of PASSWORD=, PWD= or RTK=
+///   the result holds no value of PASSWORD=, PWD= or RTK=; what follows RTK=RTK= is the value of neither and stays
 ///   f(f(t)) == f(t)    for t without TOKEN= and RTK=; a masked RTK= grows by eight asterisks each time
 VELCOREDATA_API TString ObfuscateSecretsInString(TString const & text);
