@@ -1,6 +1,8 @@
 // The fiscal calendar of DateTime, and its days within weeks.
 
 #include "velcoredata/data/DateTime.h"
+
+#include "main/data/WholeDates.h"
 #include "velcoredata/data/DateTimeUtils.h"
 #include "velcoredata/data/GregorianDateOptions.h"
 #include "velsys/Arithmetic.h"
@@ -12,11 +14,6 @@ using detail::WrapSub;
 namespace {
 
 constexpr int notGiven = -1;
-
-DateTime FirstOfMonth(int year, int month)
-{
-    return DateTime(year, month, 1, 0, 0, 0, 0.0);
-}
 
 DateTime DayBefore(DateTime const & date)
 {
@@ -78,7 +75,7 @@ DateTime::YearMonthDay DateTime::GetFiscalYearMonthDay(FYSValues fiscalYearStart
 DateTime DateTime::FiscalYearStart(int fiscalYear, FYSValues fiscalYearStart)
 {
     int const year = fiscalYearStart == FYS_JANUARY ? fiscalYear : WrapSub(fiscalYear, 1);
-    return FirstOfMonth(year, fiscalYearStart);
+    return detail::FirstOfMonth(year, fiscalYearStart);
 }
 
 DateTime DateTime::FiscalYearEnd(int fiscalYear, FYSValues fiscalYearStart)
@@ -101,7 +98,7 @@ DateTime DateTime::FiscalQuarterEnd(int fiscalYear, int quarter, FYSValues fisca
 DateTime DateTime::FiscalMonthStart(int fiscalYear, int fiscalMonth, FYSValues fiscalYearStart)
 {
     int const month = ConvertToCalendarMonth(fiscalMonth, fiscalYearStart);
-    return FirstOfMonth(ConvertToCalendarYear(fiscalYear, month, fiscalYearStart), month);
+    return detail::FirstOfMonth(ConvertToCalendarYear(fiscalYear, month, fiscalYearStart), month);
 }
 
 DateTime DateTime::FiscalMonthEnd(int fiscalYear, int fiscalMonth, FYSValues fiscalYearStart)

@@ -1,6 +1,7 @@
 #include "velcoredata/data/DateTimeUtils.h"
 
 #include "main/data/MonthMove.h"
+#include "main/data/WholeDates.h"
 #include "velcoredata/data/IDateOptions.h"
 #include "velcoredata/data/ISO8601DateOptions.h"
 #include "velsys/Arithmetic.h"
@@ -56,7 +57,7 @@ DateTime MoveISOWeeks(DateTime const & date, std::int32_t weeks)
 DateTime StartOfFiscalYear(DateTime::YearMonthDay const & date, FYSValues fiscalYearStart)
 {
     int const yearsBack = date.month < fiscalYearStart ? 1 : 0;
-    return DateTime(WrapSub(date.year, yearsBack), fiscalYearStart, 1, 0, 0, 0, 0.0);
+    return detail::FirstOfMonth(WrapSub(date.year, yearsBack), fiscalYearStart);
 }
 
 DateTime StartOfFiscalQuarter(DateTime::YearMonthDay const & date, FYSValues fiscalYearStart)
@@ -65,19 +66,18 @@ DateTime StartOfFiscalQuarter(DateTime::YearMonthDay const & date, FYSValues fis
     int const yearsBack = date.month < firstMonth ? 1 : 0;
     int const monthInYear = WrapAdd(WrapSub(date.month, firstMonth), 12 * yearsBack);
     int const startMonth = WrapAdd(WrapSub(firstMonth, 1), monthInYear / 3 * 3);
-    return DateTime(WrapAdd(WrapSub(date.year, yearsBack), startMonth / 12), startMonth % 12 + 1, 1, 0, 0, 0, 0.0);
+    return detail::FirstOfMonth(WrapAdd(WrapSub(date.year, yearsBack), startMonth / 12), startMonth % 12 + 1);
 }
 
 DateTime StartOfWeek(DateTime const & date, IDateOptions const & options)
 {
-    DateTime::YearMonthDay const d = date.GetYearMonthDay();
-    return AdjustByDatePeriod(DateTime(d.year, d.month, d.day, 0, 0, 0, 0.0), DatePeriodType::Day,
+    return AdjustByDatePeriod(detail::CutTo(date, DatePeriodType::Day), DatePeriodType::Day,
                               -static_cast<long long>(date.GetDaysSinceStartOfWeek(options)));
 }
 
 long long DaysBetween(DateTime const & later, DateTime const & earlier)
 {
-    return (later.GetDate() - earlier.GetDate()).GetTotalDays();
+    return (detail::CutTo(later, DatePeriodType::Day) - detail::CutTo(earlier, DatePeriodType::Day)).GetTotalDays();
 }
 
 long long WeeksBetween(DateTime const & later, DateTime const & earlier, IDateOptions const & options)
@@ -94,18 +94,9 @@ long long ISOWeeksBetween(DateTime const & later, DateTime const & earlier)
 {
     ISO8601DateOptions const options;
     auto const backToMonday = [&](DateTime const & date) {
-        return date.GetDate() - DateTimeSpan::Days(date.GetDaysSinceStartOfWeek(options));
+        return detail::CutTo(date, DatePeriodType::Day) - DateTimeSpan::Days(date.GetDaysSinceStartOfWeek(options));
     };
     return DatePeriodDifference(backToMonday(later), backToMonday(earlier), DatePeriodType::Day, options) / 7;
-}
-
-// The date with what is finer than the period cut off. Only called for hours, minutes and seconds.
-DateTime CutClock(DateTime const & date, DatePeriodType finest)
-{
-    DateTime::YearMonthDay const d = date.GetYearMonthDay();
-    int const minute = finest >= DatePeriodType::Minute ? date.GetMinute() : 0;
-    int const second = finest >= DatePeriodType::Second ? date.GetSecond() : 0;
-    return DateTime(d.year, d.month, d.day, date.GetHour(), minute, second, 0.0);
 }
 
 // Year, quarter and month of a date, counted from the start of fiscal years.
@@ -149,16 +140,18 @@ DateTime AdjustByDatePeriod(DateTime const & date, DatePeriodType type, long lon
 
 DateTime FindStartOfPeriod(DateTime const & date, DatePeriodType type, IDateOptions const & options)
 {
-    DateTime::YearMonthDay const d = date.GetYearMonthDay();
     switch (type) {
-    case DatePeriodType::Year: return StartOfFiscalYear(d, options.GetFiscalYearStart());
-    case DatePeriodType::Quarter: return StartOfFiscalQuarter(d, options.GetFiscalYearStart());
-    case DatePeriodType::Month: return DateTime(d.year, d.month, 1, 0, 0, 0, 0.0);
+    case DatePeriodType::Year: return StartOfFiscalYear(date.GetYearMonthDay(), options.GetFiscalYearStart());
+    case DatePeriodType::Quarter: return StartOfFiscalQuarter(date.GetYearMonthDay(), options.GetFiscalYearStart());
+    case DatePeriodType::Month: {
+        DateTime::YearMonthDay const d = date.GetYearMonthDay();
+        return detail::FirstOfMonth(d.year, d.month);
+    }
     case DatePeriodType::Week: return StartOfWeek(date, options);
-    case DatePeriodType::Day: return DateTime(d.year, d.month, d.day, 0, 0, 0, 0.0);
+    case DatePeriodType::Day:
     case DatePeriodType::Hour:
     case DatePeriodType::Minute:
-    case DatePeriodType::Second: return CutClock(date, type);
+    case DatePeriodType::Second: return detail::CutTo(date, type);
     case DatePeriodType::ISOYear: return DateTime::ISO8601YearStart(date.GetISO8601Year());
     case DatePeriodType::ISOQuarter:
         return DateTime::ISO8601QuarterStart(date.GetISO8601Year(), date.GetISO8601Quarter());
@@ -190,9 +183,9 @@ long long DatePeriodDifference(DateTime const & later, DateTime const & earlier,
     }
     case DatePeriodType::Week: return WeeksBetween(later, earlier, options);
     case DatePeriodType::Day: return DaysBetween(later, earlier);
-    case DatePeriodType::Hour: return (CutClock(later, type) - CutClock(earlier, type)).GetTotalHours();
-    case DatePeriodType::Minute: return (CutClock(later, type) - CutClock(earlier, type)).GetTotalMinutes();
-    case DatePeriodType::Second: return (CutClock(later, type) - CutClock(earlier, type)).GetTotalSeconds();
+    case DatePeriodType::Hour: return (detail::CutTo(later, type) - detail::CutTo(earlier, type)).GetTotalHours();
+    case DatePeriodType::Minute: return (detail::CutTo(later, type) - detail::CutTo(earlier, type)).GetTotalMinutes();
+    case DatePeriodType::Second: return (detail::CutTo(later, type) - detail::CutTo(earlier, type)).GetTotalSeconds();
     case DatePeriodType::ISOYear: return static_cast<long long>(later.GetISO8601Year()) - earlier.GetISO8601Year();
     case DatePeriodType::ISOQuarter: {
         auto const position = [](DateTime const & date) {
