@@ -1,5 +1,6 @@
 #include "velcoredata/string/CoreICUUtils.h"
 
+#include "velcoredata/core/LocalStrings.h"
 #include "velcoreplatform/StringException.h"
 #include "velcoreplatform/TFormatString.h"
 #include "velcoreplatform/TLog.h"
@@ -13,7 +14,8 @@ void ThrowICUException(TString const & errorName, TString const & detail)
                          u"\nError: %1, %2"
                          u"\n-------------------------------------------------------------------------");
     LogMessage(TLog::Warn(), report.arg(errorName, detail));
-    VELTRIA_THROW(StringException, 0x5EA10C35, TString(u"String comparison error."));
+    VELTRIA_THROW(StringException, 0x5EA10C35,
+                  CoreData::LookupTStrExported(CoreData::StringId::IDS_STRING_COMPARISON_ERROR));
     __builtin_unreachable();
 }
 

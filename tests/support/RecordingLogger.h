@@ -15,7 +15,7 @@ public:
     struct Record
     {
         int severity;
-        std::string text;  // UTF-8; the event's value
+        std::string text;  // UTF-8; the event's value, a text as it stands
     };
 
     RecordingLogger() : m_before(TLog::Logger::Replace(this)) {}
@@ -25,7 +25,11 @@ public:
     void Log(TLog::Event const & event, TLog::AnySeverity const & severity) override
     {
         std::lock_guard lock(m_mutex);
-        TString const text = event.GetValue() == nullptr ? TString() : event.GetValue()->ToText();
+        TString text;
+        if (auto const * const literal = dynamic_cast<TLog::Literal const *>(event.GetValue().get()))
+            text = literal->GetText();
+        else if (event.GetValue() != nullptr)
+            text = event.GetValue()->ToText();
         m_records.push_back({static_cast<int>(static_cast<TLog::Severity>(severity)), text.toStdString()});
     }
     std::vector<Record> GetRecords() const
