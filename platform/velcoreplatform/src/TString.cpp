@@ -27,6 +27,12 @@ int Narrow(qsizetype index)
     return static_cast<int>(index);
 }
 
+// Where a search begins: a negative index counts from the end, but not beyond the first code unit.
+int Start(int from, int length)
+{
+    return from < 0 ? std::max(0, length + from) : from;
+}
+
 template <class Integer>
 TString FormatInteger(Integer value, int fieldWidth, int base, char16_t fill)
 {
@@ -199,12 +205,12 @@ bool TString::contains(TString const & text, CaseSensitivity cs) const noexcept
 
 int TString::indexOf(char16_t character, int from) const noexcept
 {
-    return Narrow(ToQt(View()).indexOf(QChar(character), from));
+    return Narrow(ToQt(View()).indexOf(QChar(character), Start(from, length())));
 }
 
 int TString::indexOf(TString const & text, int from, CaseSensitivity cs) const noexcept
 {
-    return Narrow(ToQt(View()).indexOf(ToQt(text.View()), from, ToQt(cs)));
+    return Narrow(ToQt(View()).indexOf(ToQt(text.View()), Start(from, length()), ToQt(cs)));
 }
 
 int TString::lastIndexOf(char16_t character, int from) const noexcept
@@ -221,16 +227,14 @@ int TString::count(char16_t character) const noexcept
 
 int TString::findOneOf(TString const & set, int from) const noexcept
 {
-    std::size_t const start =
-        from < 0 ? static_cast<std::size_t>(std::max(0, length() + from)) : static_cast<std::size_t>(from);
+    std::size_t const start = static_cast<std::size_t>(Start(from, length()));
     std::size_t const found = View().find_first_of(set.View(), start);
     return found == std::u16string_view::npos ? -1 : static_cast<int>(found);
 }
 
 int TString::findOneNotOf(TString const & set, int from) const noexcept
 {
-    std::size_t const start =
-        from < 0 ? static_cast<std::size_t>(std::max(0, length() + from)) : static_cast<std::size_t>(from);
+    std::size_t const start = static_cast<std::size_t>(Start(from, length()));
     std::size_t const found = View().find_first_not_of(set.View(), start);
     return found == std::u16string_view::npos ? -1 : static_cast<int>(found);
 }

@@ -149,7 +149,8 @@ public:
     bool contains(TString const & text, CaseSensitivity cs = CaseSensitive) const noexcept;
     bool contains(char16_t character) const noexcept { return indexOf(character) >= 0; }
 
-    // Search. `from` is the first index looked at (lastIndexOf goes down from it); a negative one counts from the end.
+    // Search. `from` is the first index looked at (lastIndexOf goes down from it). A negative one counts from the end;
+    // before the start it means the start, and nothing for lastIndexOf.
     int indexOf(char16_t character, int from = 0) const noexcept;
     int indexOf(TString const & text, int from = 0, CaseSensitivity cs = CaseSensitive) const noexcept;
     int lastIndexOf(char16_t character, int from = -1) const noexcept;
