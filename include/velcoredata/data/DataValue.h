@@ -30,6 +30,8 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <iosfwd>
 #include <memory>
 #include <utility>
 
@@ -43,6 +45,7 @@
 
 class BinaryDataValue;
 class Collation;
+class DataValueInspector;
 struct StringWithCollation;
 class Tuple;
 namespace velgeo {
@@ -242,6 +245,53 @@ public:
     // Throws unless the type is Spatial. A marker gives an empty pointer.
     std::shared_ptr<velgeo::Spatial const> GetSpatial() const;
 
+    // Identity: the order of containers and sorts, not that of queries (see DataValueOperators::Compare).
+    //
+    //                                     ==      <       Compare
+    //   Integer 1     and Real 1.0        false   false   equal
+    //   Integer 2     and Real 2.5        false   true    less
+    //   null Integer  and Integer 0       false   true    null is unequal to everything
+    //   null Integer  and Real -1.0       false   false   null is unequal (< reads the null as 0)
+    //   Real 0.0      and Real -0.0       false   false   equal
+    //   NaN           and the same NaN    true    false   not a number
+    //   Integer 9     and String "1"      false   true    raises
+    //
+    // Equality: type and marker, then strings and tuples by their own ==, spatial objects by theirs, every other type
+    // by the payload's bits; a Binary is equal only to a value of the same object. Precision, scale and ordinal take no
+    // part. Order: types by their numbers, but Integer and Real among each other by value (markers read as 0); within a
+    // type Null first, then Normal, then the other markers by number. `==` implies equal hashes for strings of one
+    // collation and for all other types. `<` is irreflexive and asymmetric; it is transitive within one type without
+    // NaN, and no strict weak order over mixed numbers and NaN: -0.0 and 0.0 are neighbours though they differ.
+    friend bool operator==(DataValue const & a, DataValue const & b)
+    {
+        if (((a.m_head ^ b.m_head) & 0xFFFF) != 0)
+            return false;
+        return a.m_payload == b.m_payload || (a.HasComparedPayload() && EqualPayloads(a, b));
+    }
+    friend bool operator<(DataValue const & a, DataValue const & b)
+    {
+        if (((a.m_head | b.m_head) & 0xFFFF) == 0)  // two integers without markers
+            return static_cast<long long>(a.m_payload) < static_cast<long long>(b.m_payload);
+        return Less(a, b);
+    }
+    friend bool operator<=(DataValue const & a, DataValue const & b) { return a == b || a < b; }
+    friend bool operator>=(DataValue const & a, DataValue const & b) { return a == b || b < a; }
+    friend bool operator>(DataValue const & a, DataValue const & b) { return b < a; }
+
+    // The hash of a Real leaves precision and scale out; a string's is its collation hash; all others count every
+    // field.
+    unsigned Hash() const;
+
+    // What a query language would read: NULL, 3, 3., "text" with quotes doubled, true, #2020-01-02#,
+    // #2020-01-02 12:00:00.005#; empty for tuples, binary data and unknown values. Reals have 17 significant digits and
+    // always a point or an exponent. Raises "GetSpecial() == DataValueTypes::Null",
+    // "LogicException_LogicAssert_0x21164B74", for every other marker: the form has no place for them.
+    TString FormatAsLiteral() const;
+
+    // Calls the one operation of the inspector that fits. Raises "DataType::Table not expected in DataValue",
+    // "LogicException_LogicAssert_0x935B635F", for type Table without a marker.
+    void Accept(DataValueInspector & inspector) const;
+
     // "INTEGER", "REAL", "STRING", "DATETIME", "BOOLEAN", "DATE", "TUPLE", "SPATIAL"; "UNKNOWN(9)" for every other
     // number.
     static TString DataTypeToString(DataType type);
@@ -262,6 +312,14 @@ private:
                                               1u << static_cast<unsigned>(DataType::Binary);
     static constexpr std::uint32_t kOwned = kCounted | 1u << static_cast<unsigned>(DataType::Spatial);
 
+    // Types whose equality is more than that of the payload's bits.
+    static constexpr std::uint32_t kCompared = 1u << static_cast<unsigned>(DataType::String) |
+                                               1u << static_cast<unsigned>(DataType::Tuple) |
+                                               1u << static_cast<unsigned>(DataType::Spatial);
+
+    bool HasComparedPayload() const noexcept { return ((kCompared >> (m_head & 31)) & 1) != 0; }
+    static bool EqualPayloads(DataValue const & a, DataValue const & b);
+    static bool Less(DataValue const & a, DataValue const & b);
     bool OwnsPayload() const noexcept { return m_payload != 0 && ((kOwned >> (m_head & 31)) & 1) != 0; }
     RefCntObject const * Counted() const noexcept { return reinterpret_cast<RefCntObject const *>(m_payload); }
     void TakeReference()
@@ -316,6 +374,20 @@ private:
 
 static_assert(sizeof(DataValue) == 16);
 static_assert(std::endian::native == std::endian::little, "the picture above is that of a little-endian machine");
+
+// The wrapped negative of an Integer, the Real with its sign flipped (precision and scale are lost). The type alone
+// counts: a null Integer gives 0, a null Real -0.0; DataValueOperators::Negate keeps nulls. Raises "Unary operator- is
+// unsupported for this data type.", "LogicException_LogicAssert_0xED6A87E9", for every other type.
+VELCOREDATA_API DataValue operator-(DataValue value);
+
+// toPrintableString(FormatAsLiteral()) with the stream's width and fill.
+VELCOREDATA_API std::ostream & operator<<(std::ostream & out, DataValue const & value);
+
+template <>
+struct std::hash<DataValue>
+{
+    std::size_t operator()(DataValue const & value) const { return value.Hash(); }
+};
 
 // 1.5_dv is a Real, 5_dv an Integer, u"text"_dv a String with the unknown collation.
 inline DataValue operator""_dv(long double value) noexcept

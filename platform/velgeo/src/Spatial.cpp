@@ -1,0 +1,3 @@
+#include "velgeo/Spatial.h"
+
+velgeo::Spatial::~Spatial() = default;
