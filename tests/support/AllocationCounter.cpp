@@ -12,7 +12,9 @@
 #endif
 
 #if defined(COUNT_THROUGH_SANITIZER)
-#include <sanitizer/allocator_interface.h>
+// g++ has the function but not sanitizer/allocator_interface.h.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(void const volatile *, std::size_t),
+                                                         void (*)(void const volatile *));
 #endif
 
 namespace {
