@@ -14,7 +14,8 @@
 //   Compare(a, b) == -Compare(b, a) in sign       Compare(a, a) == 0
 //   Compare(a, b) <= 0 and Compare(b, c) <= 0 imply Compare(a, c) <= 0
 //   Compare(a, b) == 0 implies Hash(a) == Hash(b)
-//   k = Search(t, p, 0, &n) >= 0 implies k + n <= |t| and Compare(t[k, k + n], p) == 0
+//   k = Search(t, p, 0, &n) >= 0 implies k + n <= |t| and Compare(t[k, k + n], p) == 0; where punctuation is shifted or
+//   the case level on, ICU's search sees primary differences only and the match is equal at that strength
 //   Trim == LTrim of RTrim == RTrim of LTrim      Trim, Lower and Upper are idempotent
 class VELCOREDATA_API Collator
 {
