@@ -3,9 +3,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include "typedtable/UserError.h"
 
@@ -20,7 +20,7 @@ namespace {
 
 }  // namespace
 
-InputFile::InputFile(std::string const & path) : m_name(path == "-" ? "standard input" : path)
+InputFile::InputFile(std::string const & path, Readings readings) : m_name(path == "-" ? "standard input" : path)
 {
     if (path == "-") {
         // A descriptor of our own: standard input itself stays open.
@@ -37,8 +37,11 @@ InputFile::InputFile(std::string const & path) : m_name(path == "-" ? "standard 
     if (S_ISDIR(status.st_mode))
         throw UserError(m_name + ": is a folder, not a file");
     // Standard input may stand in the middle of a regular file, which is where the table begins.
-    if (!S_ISREG(status.st_mode) || path == "-")
-        CopyToTemporaryFile();
+    if (readings == Readings::Twice && (!S_ISREG(status.st_mode) || path == "-")) {
+        m_copy.reset(std::tmpfile());
+        if (!m_copy)
+            ThrowSystemError("temporary file");
+    }
 }
 
 std::size_t InputFile::Read(char * bytes, std::size_t size)
@@ -46,29 +49,20 @@ std::size_t InputFile::Read(char * bytes, std::size_t size)
     std::size_t const count = std::fread(bytes, 1, size, m_file.get());
     if (count == 0 && std::ferror(m_file.get()))
         ThrowSystemError(m_name);
+    if (m_copy && std::fwrite(bytes, 1, count, m_copy.get()) != count)
+        ThrowSystemError("temporary file");
     return count;
 }
 
 void InputFile::Rewind()
 {
+    if (m_copy) {
+        if (std::fflush(m_copy.get()) != 0)
+            ThrowSystemError("temporary file");
+        m_file = std::move(m_copy);
+    }
     if (std::fseek(m_file.get(), 0, SEEK_SET) != 0)
         ThrowSystemError(m_name);
-}
-
-void InputFile::CopyToTemporaryFile()
-{
-    File copy(std::tmpfile());
-    if (!copy)
-        ThrowSystemError("temporary file");
-    std::array<char, 65536> bytes;
-    while (std::size_t const count = Read(bytes.data(), bytes.size())) {
-        if (std::fwrite(bytes.data(), 1, count, copy.get()) != count)
-            ThrowSystemError("temporary file");
-    }
-    if (std::fflush(copy.get()) != 0)
-        ThrowSystemError("temporary file");
-    m_file = std::move(copy);
-    Rewind();
 }
 
 }  // namespace typedtable

@@ -9,17 +9,23 @@
 
 namespace typedtable {
 
-/// A file by path, or standard input for the path "-". What cannot be read twice (a pipe, a terminal, a device) is
-/// first copied to a nameless temporary file, so that memory stays bounded whatever its length.
+/// A file by path, or standard input for the path "-". What cannot be read twice by itself (a pipe, a terminal, a
+/// device) is copied to a nameless temporary file as it is read, so that memory stays bounded whatever its length.
 class InputFile : public ByteSource
 {
 public:
+    enum class Readings
+    {
+        Once,
+        Twice
+    };
+
     /// Throws UserError "PATH: No such file or directory" and the like if the file cannot be opened or is a folder.
-    explicit InputFile(std::string const & path);
+    InputFile(std::string const & path, Readings readings);
 
     std::size_t Read(char * bytes, std::size_t size) override;
 
-    /// The next Read begins at the first byte again.
+    /// Goes back to the first byte for the second reading, once the first one came to the end.
     void Rewind();
 
     /// The path as given; "standard input" for "-".
@@ -32,10 +38,9 @@ private:
     };
     using File = std::unique_ptr<std::FILE, Closer>;
 
-    void CopyToTemporaryFile();
-
     std::string m_name;
     File m_file;
+    File m_copy;  // of what is read, where the file itself has no second reading
 };
 
 }  // namespace typedtable

@@ -44,7 +44,7 @@ void Run(std::vector<std::string> const & arguments)
     if (options.help) {
         std::cout << kUsage;
     } else {
-        InputFile file(options.file);
+        InputFile file(options.file, options.groupBy ? InputFile::Readings::Twice : InputFile::Readings::Once);
         try {
             Schema const schema = ReadSchema(file, options.rows);
             if (options.groupBy)

@@ -291,6 +291,14 @@ d:month     month    sum(i)  mean(r)  min(i)  count
             result = run(path, "--group-by", "date:year", stdin=weather)
             self.assertEqual((result.returncode, result.stdout), (0, expected), result.stderr)
 
+    def test_standard_input_from_the_middle_of_a_file_is_read_twice(self):
+        path = self.write("skipped\na\n2020-05-01\n")
+        with open(path, "rb") as text:
+            os.lseek(text.fileno(), len("skipped\n"), os.SEEK_SET)
+            result = subprocess.run([PROGRAM, "-", "--group-by", "a:day"], stdin=text, capture_output=True, timeout=60)
+        self.assertEqual(result.stdout.decode(),
+                         "a:day       count\n2020-05-01      1\n1 period from 2020-05-01 to 2020-05-01\n")
+
 
 class Refusals(Program):
     def test_files(self):
@@ -318,6 +326,10 @@ class Refusals(Program):
             with self.subTest(text=text):
                 self.assert_refuses(f"{path}: {error}", path)
                 self.assert_refuses(f"{path}: {error}", path, "--group-by", "a:year")
+
+    def test_a_device_without_end(self):
+        self.assert_refuses("/dev/zero: line 1: a zero byte: this is not a text file", "/dev/zero")
+        self.assert_refuses("/dev/zero: line 1: a zero byte: this is not a text file", "/dev/zero", "--group-by", "a:day")
 
     def test_columns(self):
         self.assert_refuses(f'{WEATHER}: no column is named "day"', WEATHER, "--group-by", "day:year")
