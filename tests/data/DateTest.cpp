@@ -70,6 +70,7 @@ TEST(Date, EveryDayNumberDecomposesByTheDefiningSteps)
         detail::CivilDay const actual = date(number).GetCivilDay();
         ASSERT_TRUE(actual.year == expected.year && actual.month == expected.month && actual.day == expected.day)
             << "day number " << number;
+        ASSERT_EQ(date(number).GetYear(), expected.year) << "day number " << number;
     }
 }
 
@@ -85,7 +86,7 @@ TEST(Date, EveryDayNumberIsInTheIsoWeekOfTheDefiningSteps)
 TEST(Date, EveryMonthComposesByTheDefiningSteps)
 {
     for (std::int32_t year = -2000; year <= 34000; ++year)
-        for (int month = -3; month <= 16; ++month)
+        for (int month = year % 100 == 0 ? -128 : -3; month <= (year % 100 == 0 ? 127 : 16); ++month)
             for (int day : {-128, -1, 0, 1, 15, 28, 29, 30, 31, 32, 127}) {
                 auto const m = static_cast<std::int8_t>(month);
                 auto const d = static_cast<std::int8_t>(day);

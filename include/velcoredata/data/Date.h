@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "velcoredata/core/Export.h"
@@ -20,6 +21,21 @@ struct IsoWeek
     std::int32_t year;
     std::int32_t week;
 };
+
+/// By month (as an unsigned byte): floor(30.6001 x (m + 1)) of the defining steps, where January and February are the
+/// months 13 and 14 of the year before, and the constants of those steps added.
+inline constexpr auto DaysBeforeMonth = [] {
+    std::array<std::int32_t, 256> days{};
+    for (int month = -128; month < 128; ++month) {
+        int const m = month < 3 ? month + 12 : month;
+        double const product = 30.6001 * (m + 1);
+        auto floor = static_cast<std::int32_t>(product);
+        if (floor > product)
+            --floor;
+        days[static_cast<std::uint8_t>(month)] = floor + 1720996;
+    }
+    return days;
+}();
 
 }  // namespace detail
 
@@ -47,15 +63,13 @@ public:
     /// gregoriandate(1970, 1, 1) is 2440587; gregoriandate(2015, 2, 29) equals gregoriandate(2015, 3, 1).
     static date gregoriandate(std::int32_t year, std::int8_t month, std::int8_t day) noexcept
     {
-        if (static_cast<std::uint32_t>(year) - 1u >= 32767u || static_cast<std::uint32_t>(month) - 1u >= 12u)
+        if (static_cast<std::uint32_t>(year) - 1u >= 32767u) [[unlikely]]
             return date(DayNumberBySteps(year, month, day));
-        std::uint32_t const isJanOrFeb = month <= 2;
-        std::uint32_t const y = static_cast<std::uint32_t>(year) - isJanOrFeb;
-        std::uint32_t const m = static_cast<std::uint32_t>(month) + (isJanOrFeb ? 12u : 0u);
+        std::uint32_t const y = static_cast<std::uint32_t>(year) - (month < 3);
         std::uint32_t const century = y / 100;
         std::uint32_t const daysBeforeYear = 1461 * y / 4 - century + century / 4;
-        std::uint32_t const daysBeforeMonth = (979 * m - 2919) / 32;
-        return date(static_cast<std::int32_t>(daysBeforeYear + daysBeforeMonth) + day + (c_firstMarchOfYear0 - 1));
+        return date(static_cast<std::int32_t>(daysBeforeYear) +
+                    detail::DaysBeforeMonth[static_cast<std::uint8_t>(month)] + day);
     }
 
     constexpr std::int32_t GetDayNumber() const noexcept { return m_dayNumber; }
@@ -63,43 +77,53 @@ public:
     /// Year, month and day. date(2415018) is 1899-12-30; date(1757584) reads as a day of the year 8819334.
     detail::CivilDay GetCivilDay() const noexcept
     {
-        if (!IsWithin(m_dayNumber, FirstIntegerDay, LastIntegerDay))
+        if (!IsWithin(m_dayNumber, FirstIntegerDay, LastIntegerDay)) [[unlikely]]
             return CivilDayBySteps(m_dayNumber);
-        MarchYear const y = SplitMarchYear(m_dayNumber);
+        YearSplit const y = SplitFrom(m_dayNumber, c_firstMarchOfYear0);
         std::uint32_t const n = 2141 * y.dayOfYear + 197913;
         std::uint32_t const month = n >> 16;
-        bool const isJanOrFeb = y.dayOfYear >= c_firstJanuary;
+        bool const isJanOrFeb = y.dayOfYear >= c_january;
         return {static_cast<std::int32_t>(y.century * 100 + y.yearOfCentury + isJanOrFeb),
                 static_cast<std::int32_t>(isJanOrFeb ? month - 12 : month),
                 static_cast<std::int32_t>((n & 0xFFFF) / 2141 + 1)};
     }
 
+    /// The year of GetCivilDay, at less cost.
+    std::int32_t GetYear() const noexcept
+    {
+        if (!IsWithin(m_dayNumber, FirstIntegerDay, LastIntegerDay)) [[unlikely]]
+            return CivilDayBySteps(m_dayNumber).year;
+        YearSplit const y = SplitFrom(m_dayNumber, c_firstJanuaryOfYear1);
+        return static_cast<std::int32_t>(y.century * 100 + y.yearOfCentury + 1);
+    }
+
     /// ISO 8601 year and week. 2016-01-03 is in week 53 of 2015, 2018-12-31 in week 1 of 2019.
     detail::IsoWeek GetIsoWeek() const noexcept
     {
-        // The days before and after the nearest Thursday take the integer road too.
-        if (!IsWithin(m_dayNumber, FirstIntegerDay + 366, LastIntegerDay - 366))
+        // Three days of room for the Thursday on either side.
+        if (!IsWithin(m_dayNumber, FirstIntegerDay + 3, LastIntegerDay - 3)) [[unlikely]]
             return IsoWeekBySteps(m_dayNumber);
-        std::int32_t const thursday = m_dayNumber - (m_dayNumber + 1) % 7 + 3;
-        MarchYear const y = SplitMarchYear(thursday);
-        bool const isJanOrFeb = y.dayOfYear >= c_firstJanuary;
-        std::uint32_t const isLeap = ((y.yearOfCentury != 0 ? y.yearOfCentury : y.century) & 3) == 0;
-        std::uint32_t const dayOfYear = isJanOrFeb ? y.dayOfYear - c_firstJanuary : y.dayOfYear + 59 + isLeap;
-        return {static_cast<std::int32_t>(y.century * 100 + y.yearOfCentury + isJanOrFeb),
-                static_cast<std::int32_t>(dayOfYear / 7 + 1)};
+        // The ISO year is the year of the week's Thursday, and the week counts the Thursdays of that year.
+        auto const daysSinceMonday = static_cast<std::int32_t>(static_cast<std::uint32_t>(m_dayNumber + 1) % 7);
+        YearSplit const y = SplitFrom(m_dayNumber - daysSinceMonday + 3, c_firstJanuaryOfYear1);
+        return {static_cast<std::int32_t>(y.century * 100 + y.yearOfCentury + 1),
+                static_cast<std::int32_t>(y.dayOfYear / 7 + 1)};
     }
 
 private:
-    // A year that starts on 1 March; the day counts from 0.
-    struct MarchYear
+    // Counts of whole centuries, years and days since an epoch from which every fourth year is one day longer at its
+    // end (but not every hundredth, but every four-hundredth). 1 March of the year 0 is such a day, and so is 1 January
+    // of the year 1.
+    struct YearSplit
     {
         std::uint32_t century;
         std::uint32_t yearOfCentury;
         std::uint32_t dayOfYear;
     };
 
-    static constexpr std::int32_t c_firstMarchOfYear0 = 1721119;  // day number of 0000-03-01
-    static constexpr std::uint32_t c_firstJanuary = 306;          // day of 1 January in a March year
+    static constexpr std::int32_t c_firstMarchOfYear0 = 1721119;
+    static constexpr std::int32_t c_firstJanuaryOfYear1 = 1721425;
+    static constexpr std::uint32_t c_january = 306;  // day of 1 January in a year that starts on 1 March
 
     static constexpr bool IsWithin(std::int32_t value, std::int32_t first, std::int32_t last) noexcept
     {
@@ -107,9 +131,9 @@ private:
                static_cast<std::uint32_t>(last - first);
     }
 
-    static MarchYear SplitMarchYear(std::int32_t dayNumber) noexcept
+    static YearSplit SplitFrom(std::int32_t dayNumber, std::int32_t epoch) noexcept
     {
-        std::uint32_t const n1 = 4 * static_cast<std::uint32_t>(dayNumber - c_firstMarchOfYear0) + 3;
+        std::uint32_t const n1 = 4 * static_cast<std::uint32_t>(dayNumber - epoch) + 3;
         std::uint32_t const century = n1 / 146097;
         std::uint32_t const n2 = n1 % 146097 | 3;
         std::uint64_t const p2 = std::uint64_t{2939745} * n2;

@@ -136,7 +136,7 @@ public:
 
     constexpr unsigned long long GetRepresentation() const noexcept { return m_value; }
 
-    int GetYear() const noexcept { return Day().GetCivilDay().year; }
+    int GetYear() const noexcept { return Day().GetYear(); }
     int GetMonth() const noexcept { return Day().GetCivilDay().month; }
     int GetDay() const noexcept { return Day().GetCivilDay().day; }
     YearMonthDay GetYearMonthDay() const noexcept
