@@ -47,7 +47,7 @@ TEST(CoreThreadContext, SettingOutsideASessionWarnsAndKeepsNothing)
     auto const records = logger.GetRecords();
     ASSERT_EQ(records.size(), 2u);
     EXPECT_EQ(records[0].severity, 3);
-    EXPECT_NE(records[0].text.find("\\\"a\\\""), std::string::npos) << records[0].text;
+    EXPECT_NE(records[0].text.find("\"a\""), std::string::npos) << records[0].text;
     EXPECT_EQ(CoreThreadContext::GetGenericUnsynchronizedObject(u"a"), nullptr);
     ScopedSession const session;
     EXPECT_EQ(CoreThreadContext::GetGenericUnsynchronizedObject(u"a"), nullptr);
