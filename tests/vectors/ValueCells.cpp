@@ -1,6 +1,7 @@
 #include "tests/vectors/ValueCells.h"
 
 #include "velcoredata/data/Collation.h"
+#include "velcoredata/data/Tuple.h"
 #include "velcoredata/data/XMLEnumException.h"
 #include "velsys/LogicException.h"
 #include "velsys/VeltriaException.h"
@@ -75,7 +76,52 @@ std::string EncodeRealValue(DataValue const & value)
     return text;
 }
 
+RefCntPtr<BinaryDataValue, RefCntObject> DecodeBinary(std::string_view text, BinaryObjects & objects)
+{
+    std::size_t const colon = text.find(':');
+    std::string const id(text.substr(0, colon));
+    auto & object = objects[id];
+    if (!object) {
+        std::vector<char> bytes;
+        for (std::size_t i = colon + 1; i + 1 < text.size(); i += 2)
+            bytes.push_back(static_cast<char>(std::stoi(std::string(text.substr(i, 2)), nullptr, 16)));
+        object = new BinaryDataValue(std::move(bytes));
+    }
+    return object;
+}
+
+// Commas, brackets and backslashes of texts are escaped inside values, so that a comma ends a member.
+DataValue DecodeTuple(std::string_view cell, BinaryObjects & objects)
+{
+    std::vector<DataValue> members;
+    std::size_t depth = 0;
+    std::size_t start = 1;
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+        bool const closes = cell[i] == ')' && depth == 1;
+        if ((cell[i] == ',' && depth == 1) || (closes && i > 1)) {
+            members.push_back(DecodeValue(cell.substr(start, i - start), objects));
+            start = i + 1;
+        }
+        if (cell[i] == '(')
+            ++depth;
+        if (cell[i] == ')')
+            --depth;
+    }
+    return DataValue(RefCntPtr<Tuple, RefCntObject>(new Tuple(std::move(members))));
+}
+
 }  // namespace
+
+std::string EncodeBytes(std::vector<char> const & bytes)
+{
+    constexpr char const * digits = "0123456789abcdef";
+    std::string text;
+    for (char const byte : bytes) {
+        text += digits[static_cast<unsigned char>(byte) >> 4];
+        text += digits[static_cast<unsigned char>(byte) & 15];
+    }
+    return text;
+}
 
 DataType DecodeTypeName(std::string_view name)
 {
@@ -84,8 +130,14 @@ DataType DecodeTypeName(std::string_view name)
 
 DataValue DecodeValue(std::string_view cell)
 {
+    BinaryObjects objects;
+    return DecodeValue(cell, objects);
+}
+
+DataValue DecodeValue(std::string_view cell, BinaryObjects & objects)
+{
     if (cell.starts_with('('))
-        throw UnsupportedValue("tuples cannot be made yet");
+        return DecodeTuple(cell, objects);
     std::size_t const colon = cell.find(':');
     if (colon == std::string_view::npos)
         throw std::runtime_error("not a value: " + std::string(cell));
@@ -117,7 +169,7 @@ DataValue DecodeValue(std::string_view cell)
                          TString::fromView(DecodeText(rest.substr(name + 1))));
     }
     if (kind == "BIN")
-        throw UnsupportedValue("binary data cannot be made yet");
+        return DataValue(DecodeBinary(rest, objects));
     throw std::runtime_error("not a value: " + std::string(cell));
 }
 
