@@ -27,13 +27,12 @@ testing::AssertionResult CutsLikeTheConstructor(DateTime const & value)
 {
     DateTime::YearMonthDay const d = value.GetYearMonthDay();
     int const h = value.GetHour(), m = value.GetMinute(), s = value.GetSecond();
-    for (auto const & [unit, parts] : {std::pair{DatePeriodType::Day, 0},
-                                       {DatePeriodType::Hour, 1},
-                                       {DatePeriodType::Minute, 2},
-                                       {DatePeriodType::Second, 3}})
+    for (DatePeriodType const unit :
+         {DatePeriodType::Day, DatePeriodType::Hour, DatePeriodType::Minute, DatePeriodType::Second})
     {
         auto const expected = Outcome([&] {
-            return DateTime(d.year, d.month, d.day, parts > 0 ? h : 0, parts > 1 ? m : 0, parts > 2 ? s : 0, 0.0);
+            return DateTime(d.year, d.month, d.day, unit >= DatePeriodType::Hour ? h : 0,
+                            unit >= DatePeriodType::Minute ? m : 0, unit >= DatePeriodType::Second ? s : 0, 0.0);
         });
         if (Outcome([&] { return detail::CutTo(value, unit); }) != expected)
             return testing::AssertionFailure()
