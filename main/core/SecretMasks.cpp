@@ -1,9 +1,15 @@
 #include "main/core/SecretMasks.h"
 
 #include <array>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "velcoredata/core/ReStringParser.h"
 #include "velcoredata/core/StringUtils.h"
@@ -121,15 +127,91 @@ bool Apply(Mask const & mask, std::u16string_view text, std::u16string & result)
     return matched;
 }
 
-// One bit per mask whose key word stands in the text.
-unsigned MasksInQuestion(std::u16string_view text, std::size_t firstEquals)
+// What one look at a text finds.
+struct Survey
 {
-    unsigned found = 0;
-    for (std::size_t equals = firstEquals; equals != text.npos; equals = FindEqualsSign(text, equals + 1))
-        for (std::size_t i = 0; i < masks.size(); ++i)
-            if (KeyEndsAt(text, 0, equals + 1, masks[i].key))
-                found |= 1u << i;
-    return found;
+    bool zero = false;       // a U+0000 stands in the text
+    unsigned present = 0;    // one bit per mask whose key word stands in the text
+    int keys = 0;            // key words in the text
+    std::size_t equals = 0;  // the "=" of the last of them
+};
+
+// Four code units as they lie in memory, the first lowest.
+constexpr std::uint64_t FourUnits(char16_t a, char16_t b, char16_t c, char16_t d)
+{
+    return static_cast<std::uint64_t>(a) | static_cast<std::uint64_t>(b) << 16 | static_cast<std::uint64_t>(c) << 32 |
+           static_cast<std::uint64_t>(d) << 48;
+}
+
+std::uint64_t LoadFour(char16_t const * units)
+{
+    return FourUnits(units[0], units[1], units[2], units[3]);
+}
+
+// An "=" was seen: the four units that end with it tell all but two of the key words.
+void NoteEquals(std::u16string_view text, std::size_t equals, Survey & survey)
+{
+    if (equals < 3)
+        return;
+    constexpr std::uint64_t lowerCase = FourUnits(0x20, 0x20, 0x20, 0);
+    std::size_t mask = masks.size();
+    switch (LoadFour(text.data() + equals - 3) | lowerCase) {
+    case FourUnits(u'o', u'r', u'd', u'='): mask = 0; break;
+    case FourUnits(u'p', u'w', u'd', u'='): mask = 1; break;
+    case FourUnits(u'k', u'e', u'n', u'='): mask = 2; break;
+    case FourUnits(u'r', u't', u'k', u'='): mask = 3; break;
+    default: return;
+    }
+    if (!KeyEndsAt(text, 0, equals + 1, masks[mask].key))
+        return;
+    survey.present |= 1u << mask;
+    survey.equals = equals;
+    ++survey.keys;
+}
+
+Survey SurveyOf(std::u16string_view text)
+{
+    Survey survey;
+    std::size_t i = 0;
+#if defined(__SSE2__)
+    __m128i const equals = _mm_set1_epi16(u'=');
+    __m128i zeros = _mm_setzero_si128();
+    for (; i + 16 <= text.size(); i += 16) {
+        auto const units = reinterpret_cast<__m128i const *>(text.data() + i);
+        __m128i const low = _mm_loadu_si128(units);
+        __m128i const high = _mm_loadu_si128(units + 1);
+        zeros = _mm_or_si128(
+            zeros, _mm_or_si128(_mm_cmpeq_epi16(low, _mm_setzero_si128()), _mm_cmpeq_epi16(high, _mm_setzero_si128())));
+        auto found = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_packs_epi16(_mm_cmpeq_epi16(low, equals), _mm_cmpeq_epi16(high, equals))));
+        for (; found != 0; found &= found - 1)
+            NoteEquals(text, i + static_cast<std::size_t>(std::countr_zero(found)), survey);
+    }
+    survey.zero = _mm_movemask_epi8(zeros) != 0;
+#endif
+    for (; i < text.size(); ++i) {
+        if (text[i] == u'=')
+            NoteEquals(text, i, survey);
+        survey.zero |= text[i] == u'\0';
+    }
+    return survey;
+}
+
+// The text with its one key word masked.
+TString ApplyOnce(Mask const & mask, TString const & text, std::size_t equals)
+{
+    auto const units = text.View();
+    std::size_t const end = EndOfValue(units, equals + 1, mask.value);
+    if (end == units.npos)
+        return text;
+    std::size_t const start = equals + 1 - mask.key.size();
+    std::u16string_view const replacement(mask.replacement);
+    TString result;
+    result.reserve(static_cast<int>(start + replacement.size() + units.size() - end));
+    result.append(units.data(), static_cast<int>(start));
+    result.append(replacement.data(), static_cast<int>(replacement.size()));
+    result.append(units.data() + end, static_cast<int>(units.size() - end));
+    return result;
 }
 
 }  // namespace
@@ -150,20 +232,19 @@ TString ObfuscateSecretsByPatterns(TString const & text)
 TString ObfuscateSecretsInString(TString const & text)
 {
     auto const units = text.View();
-    std::size_t const firstEquals = FindEqualsSign(units, 0);
-    if (firstEquals == units.npos)
-        return text;
-    if (text.contains(u'\0'))
+    Survey const survey = SurveyOf(units);
+    if (survey.zero)
         return detail::ObfuscateSecretsByPatterns(text);
-    unsigned const wanted = MasksInQuestion(units, firstEquals);
-    if (wanted == 0)
+    if (survey.keys == 0)
         return text;
+    if (survey.keys == 1)
+        return ApplyOnce(masks[static_cast<std::size_t>(std::countr_zero(survey.present))], text, survey.equals);
 
     std::u16string current;
     std::u16string next;
     std::u16string_view view = units;
     for (std::size_t i = 0; i < masks.size(); ++i)
-        if ((wanted & (1u << i)) != 0 && Apply(masks[i], view, next)) {
+        if ((survey.present & (1u << i)) != 0 && Apply(masks[i], view, next)) {
             current.swap(next);
             view = current;
         }
