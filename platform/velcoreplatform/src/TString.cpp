@@ -8,8 +8,6 @@
 #include <QtCore/QStringEncoder>
 #include <QtCore/QStringList>
 
-#include "velsys/Hash.h"
-
 namespace {
 
 Qt::CaseSensitivity ToQt(TString::CaseSensitivity cs)
@@ -325,9 +323,4 @@ std::vector<TString> TString::split(char16_t const * separator, SplitBehavior be
 std::ostream & operator<<(std::ostream & out, TString const & text)
 {
     return out << text.toStdString();
-}
-
-unsigned HashOf(TString const & text) noexcept
-{
-    return THash32(text.View().data(), text.lengthInBytes(), 0xdeadbeefu);
 }

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "velcoreplatform/Export.h"
+#include "velsys/Hash.h"
 #include "velsys/TStringCore.h"
 
 class VELCOREPLATFORM_API TString
@@ -247,7 +248,7 @@ public:
 private:
     static std::u16string_view Literal(char16_t const * text) noexcept
     {
-        return text == nullptr ? std::u16string_view() : std::u16string_view(text);
+        return std::u16string_view(text == nullptr ? u"" : text);
     }
     static QChar const * AsQChars(char16_t const * text) noexcept { return reinterpret_cast<QChar const *>(text); }
     // memcmp: std::char_traits<char16_t>::compare goes unit by unit.
@@ -265,7 +266,10 @@ private:
 VELCOREPLATFORM_API std::ostream & operator<<(std::ostream & out, TString const & text);
 
 // THash32 over constData() and lengthInBytes() with the seed 0xdeadbeef.
-VELCOREPLATFORM_API unsigned HashOf(TString const & text) noexcept;
+inline unsigned HashOf(TString const & text) noexcept
+{
+    return THash32(text.View().data(), text.lengthInBytes(), 0xdeadbeefu);
+}
 
 template <>
 struct std::hash<TString>

@@ -61,11 +61,11 @@ public:
     // A null pointer compares as the empty string.
     friend bool operator==(TStringCore const & a, char16_t const * b) noexcept
     {
-        return Equal(a.View(), b == nullptr ? std::u16string_view() : std::u16string_view(b));
+        return Equal(a.View(), std::u16string_view(b == nullptr ? u"" : b));
     }
 
 private:
-    // memcmp: std::char_traits<char16_t>::compare goes unit by unit.
+    // Neither view is null. memcmp: std::char_traits<char16_t>::compare goes unit by unit.
     static bool Equal(std::u16string_view a, std::u16string_view b) noexcept
     {
         return a.size() == b.size() &&
