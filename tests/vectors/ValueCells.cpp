@@ -128,6 +128,11 @@ DataType DecodeTypeName(std::string_view name)
     return static_cast<DataType>(IndexOf(kTypes, name));
 }
 
+std::string EncodeTypeName(DataType type)
+{
+    return kTypes.at(static_cast<std::size_t>(type));
+}
+
 DataValue DecodeValue(std::string_view cell)
 {
     BinaryObjects objects;

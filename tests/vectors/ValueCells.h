@@ -33,6 +33,7 @@ std::string EncodeBytes(std::vector<char> const & bytes);
 
 /// The number of a type by its name in the tables, "Integer" or "DateTime".
 DataType DecodeTypeName(std::string_view name);
+std::string EncodeTypeName(DataType type);
 
 /// Compares the text that the call gives, or the error that it raises, with the cell of the column: `!Name` or
 /// `!Name|message` name an error of the library, `!Class` its class, anything else is the text.

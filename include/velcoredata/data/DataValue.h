@@ -247,14 +247,15 @@ public:
 
     // Identity: the order of containers and sorts, not that of queries (see DataValueOperators::Compare).
     //
-    //                                     ==      <       Compare
-    //   Integer 1     and Real 1.0        false   false   equal
-    //   Integer 2     and Real 2.5        false   true    less
-    //   null Integer  and Integer 0       false   true    null is unequal to everything
-    //   null Integer  and Real -1.0       false   false   null is unequal (< reads the null as 0)
-    //   Real 0.0      and Real -0.0       false   false   equal
-    //   NaN           and the same NaN    true    false   not a number
-    //   Integer 9     and String "1"      false   true    raises
+    //                                     ==      <       DataValueOperators::Compare
+    //   Integer 1     and Real 1.0        false   false   0
+    //   Integer 2     and Real 2.5        false   true    -1
+    //   null Integer  and Integer 0       false   true    -1
+    //   null Integer  and Real -1.0       false   false   -1 (< reads the null as 0)
+    //   Real 0.0      and Real -0.0       false   false   0
+    //   NaN           and the same NaN    true    false   0
+    //   NaN           and Real 1.0        false   false   1
+    //   Integer 9     and String "1"      false   true    raises "type exception"
     //
     // Equality: type and marker, then strings and tuples by their own ==, spatial objects by theirs, every other type
     // by the payload's bits; a Binary is equal only to a value of the same object. Precision, scale and ordinal take no

@@ -1,0 +1,142 @@
+// DataValueOperators: the one place where values are combined by value semantics.
+//
+// A caller makes one on the stack, sets its two flags and calls operations. Operands are never changed; results are new
+// values. Objects are not shared between threads; they cost two bytes to make.
+//
+// Null semantics. With SetSQLNullSemantics(true) a marker among the operands makes the result that marker, the left one
+// first; by default operators ignore markers and work on the payload, which is zero for a marker:
+//
+//                                  default          SQL semantics
+//   null Integer + 5               5                null Integer
+//   %all% Integer + null Real      0.0              %all% Real
+//   null Integer * 2.5             0.0              null Real
+//   7.9 % null Real                ends the process null Integer
+//   Compare(null Integer, 0)       -1               -1
+//   Compare(0, %all% Integer)      -1               1
+//
+// Types. Integer promotes to Real and Date to DateTime; Unknown promotes to anything. A pair that does not promote, and
+// an operation on a type that it is not made for, throws DataValueOperatorException "type exception":
+// "DataValueOperatorException_AutoGen_0x5EA10C36" where one type is at fault,
+// "DataValueOperatorException_AutoGen_0x5EA10C37" where two do not go together.
+//
+// Integers wrap in 64 bits. Dividing an integer by zero, or the lowest one by -1, ends the process at once: callers
+// test the divisor. Reals follow IEEE 754.
+#pragma once
+
+#include "velcoredata/core/Export.h"
+#include "velcoredata/data/DataValue.h"
+
+class VELCOREDATA_API DataValueOperators
+{
+public:
+    DataValueOperators() noexcept = default;
+
+    // False: a type error calls the process hook ICrashNow first, and raises only if that returns. Default true.
+    void SetThrow(bool value) noexcept { m_throw = value; }
+    // Default false.
+    void SetSQLNullSemantics(bool value) noexcept { m_sqlNullSemantics = value; }
+
+    // Promotion. The common type of two: equal types themselves, Integer with Real is Real, Date with DateTime is
+    // DateTime, Unknown with anything is the other. Throws the two-type error otherwise.
+    DataType Promote(DataType a, DataType b) const;
+    bool CanPromote(DataType a, DataType b) const noexcept;
+    // `to` where nothing is lost: equal types, Integer to Real, Date to DateTime. Unknown has no special place here.
+    DataType PromoteWithoutLoss(DataType from, DataType to) const;
+    bool CanPromoteWithoutLoss(DataType from, DataType to) const noexcept;
+
+    // Arithmetic on Integer and Real; precision and scale are not carried over. Add and Subtract also take dates:
+    //   Date + Integer days is a Date       Date - Date is an Integer of days
+    //   Date + Real days is a DateTime      DateTime - DateTime is a Real of days
+    //   DateTime + either is a DateTime     Date - DateTime is a Real of days
+    // A number plus a date is the date plus the number; a date plus a date throws. The integer count of days is cut to
+    // 32 bits.
+    DataValue Add(DataValue const & a, DataValue const & b);
+    DataValue Subtract(DataValue const & a, DataValue const & b);
+    DataValue Multiply(DataValue const & a, DataValue const & b);
+    // 7 / 2 is 3, -7 / 2 is -3, 7.0 / 0 is infinity.
+    DataValue Divide(DataValue const & a, DataValue const & b);
+    // Of both operands truncated to integers, with the sign of the dividend: 7.9 % 2.9 is 1.
+    DataValue Modulo(DataValue const & a, DataValue const & b) const;
+    // Always Real. A negative base with a Real exponent that has a fractional part gives the null Real.
+    DataValue Power(DataValue const & a, DataValue const & b) const;
+    // Keeps precision and scale of a Real, unlike the free operator-.
+    DataValue Negate(DataValue const & a) const;
+    // Markers are returned as they are, whatever the semantics. A negative Real loses its precision and scale; -0.0 and
+    // NaN are returned unchanged.
+    DataValue Abs(DataValue const & a);
+    // Always Real.
+    DataValue Ceil(DataValue const & a) const;
+    DataValue Floor(DataValue const & a) const;
+    // 0.0 for everything that is not above zero, NaN included.
+    DataValue Ln(DataValue const & a) const;
+    DataValue ASinh(DataValue const & a) const;
+
+    // The implicit cast of arithmetic and comparison. The same type gives a copy, a marker keeps the marker and changes
+    // the type; Integer and Real cast to each other (a Real truncates), Date and DateTime too. Throws for everything
+    // else.
+    DataValue Cast(DataValue const & value, DataType target) const;
+
+    // Readers: the type alone is tested, a marker reads as its zero payload. Throw the one-type error for other types.
+    long long AsInt(DataValue const & value) const;
+    double AsReal(DataValue const & value) const;
+    DateTime AsDate(DataValue const & value) const;
+    DateTime AsDatetime(DataValue const & value) const;
+    DataValue MakeInt(long long value) const noexcept { return DataValue(value); }
+    DataValue MakeReal(double value) const noexcept { return DataValue(value); }
+    // Both make a DateTime.
+    DataValue MakeDate(DateTime value) const { return DataValue(value, DataType::DateTime); }
+    DataValue MakeDatetime(DateTime value) const { return DataValue(value, DataType::DateTime); }
+
+    // -1, 0 or 1. Numbers and dates of different types compare after promotion. With `fuzzy`, two Reals within sixteen
+    // units in the last place are equal, unless promotion was needed. A NaN is 1 against anything different from it,
+    // both ways. Throws the two-type error for types that do not promote.
+    int Compare(DataValue const & a, DataValue const & b, bool fuzzy) const;
+    // Distance in units in the last place, the bits read as sign and magnitude. Numbers of opposite sign are near only
+    // if both are zero or subnormal (for floats: have a biased exponent below 2). Float tolerances are capped at
+    // 1000000.
+    static int Compare(double a, double b, unsigned ulps) noexcept;
+    static int Compare(float a, float b, unsigned ulps) noexcept;
+    // A copy with its own type: Max(1, 0.5) is the Integer 1. Of equal values the right one.
+    DataValue Max(DataValue const & a, DataValue const & b);
+    DataValue Min(DataValue const & a, DataValue const & b);
+
+    // Date parts as Integers, of a Date or DateTime. A null date answers with the parts of 1899-12-30.
+    DataValue DateAsYear(DataValue const & value) const;
+    DataValue DateAsQuarter(DataValue const & value) const;
+    DataValue DateAsMonth(DataValue const & value) const;
+    DataValue DateAsWeek(DataValue const & value) const;
+    DataValue DateAsDay(DataValue const & value) const;
+    DataValue DateAsDayOfYear(DataValue const & value) const;
+    DataValue DateAsDayOfWeek(DataValue const & value) const;
+    DataValue DateAsISOYear(DataValue const & value) const;
+    DataValue DateAsISOQuarter(DataValue const & value) const;
+    DataValue DateAsISOWeek(DataValue const & value) const;
+    DataValue DateAsISODayOfWeek(DataValue const & value) const;
+    // month * 10000 + year: March 2021 is 32021.
+    DataValue DateAsMonthYear(DataValue const & value) const;
+    // (month * 100 + day) * 10000 + year: 2 March 2021 is 3022021.
+    DataValue DateAsMonthDayYear(DataValue const & value) const;
+    DataValue DateTimeAsHour(DataValue const & value) const;
+    DataValue DateTimeAsMinute(DataValue const & value) const;
+    DataValue DateTimeAsSecond(DataValue const & value) const;
+
+    // See DataValueInterpolator. Interpolate(0.5, 0, 10, false) is the Integer 5, with noCast the Real 5.0.
+    DataValue Interpolate(double fraction, DataValue const & start, DataValue const & end, bool noCast) const;
+    double InverseInterpolate(DataValue const & value, DataValue const & start, DataValue const & end) const;
+
+private:
+    // The marker that SQL semantics put in the place of a result, if an operand is one.
+    bool TakeMarker(DataValue const & a, DataValue const & b, DataValue & result) const;
+    template <class OnIntegers, class OnReals>
+    DataValue Combine(DataValue const & a, DataValue const & b, OnIntegers onIntegers, OnReals onReals) const;
+    DataValue DateAdd(DataValue const & a, DataValue const & b) const;
+    DataValue DateSubtract(DataValue const & a, DataValue const & b) const;
+    [[noreturn]] void ThrowTypeException(DataType type) const;
+    [[noreturn]] void ThrowTypeException(DataType a, DataType b) const;
+    void CrashIfAsked() const;
+
+    bool m_throw = true;
+    bool m_sqlNullSemantics = false;
+};
+
+static_assert(sizeof(DataValueOperators) == 2);
