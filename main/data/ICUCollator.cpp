@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "main/data/CollatorAttributes.h"
 #include "main/data/CollatorText.h"
@@ -16,8 +17,7 @@ using namespace detail;
 using VelICU::ICU_FAILURE;
 using VelICU::ICUErrorCode;
 
-namespace
-{
+namespace {
 
 constexpr std::size_t sortKeyBufferSize = 1024;
 constexpr char16_t ignoreDigitsRule[] = u"&[last tertiary ignorable]='0'='1'='2'='3'='4'='5'='6'='7'='8'='9'";
@@ -42,13 +42,11 @@ void MapCase(CaseMapping map, std::vector<char16_t> & out, char16_t const * text
 {
     std::u16string_view const in = TextOf(text);
     out.resize(in.size() + 1);
-    for (int round = 0; round < 2 && text != nullptr; ++round)
-    {
+    for (int round = 0; round < 2 && text != nullptr; ++round) {
         ICUErrorCode status = VelICU::U_ZERO_ERROR;
         int const room = static_cast<int>(out.size());
         int const length = map(out.data(), room, text, static_cast<int>(in.size()), locale.c_str(), status);
-        if (length >= room)
-        {
+        if (length >= room) {
             out.resize(static_cast<std::size_t>(length) + 1);
             continue;
         }
@@ -70,18 +68,14 @@ ICUCollator::ICUCollator(CollatorPool const & pool, CollatorPoolKey const & key,
     m_pUCollator = VelICU::t_ucol_open(m_locale.c_str(), status);
     if (m_pUCollator == nullptr || ICU_FAILURE(status))
         ThrowICU(status);
-    try
-    {
+    try {
         for (auto const & [attribute, value] : spec.attributes)
             ApplyCollatorAttribute(attribute, value);
-        if (m_locale == "en_US_WIN")
-        {
+        if (m_locale == "en_US_WIN") {
             constexpr char16_t rule[] = u"&'#'<'@'";
             AppendCollationRules(rule, UnitCount(rule));
         }
-    }
-    catch (...)
-    {
+    } catch (...) {
         VelICU::t_ucol_close(m_pUCollator);
         throw;
     }
@@ -100,8 +94,7 @@ void ICUCollator::ThrowICU(ICUErrorCode status) const
 
 void ICUCollator::ApplyCollatorAttribute(int attr, int value)
 {
-    if (attr == WORDSORT)
-    {
+    if (attr == WORDSORT) {
         if (value != ON)
             return;
         char16_t rule[std::size(wordSortRule)];
@@ -109,8 +102,7 @@ void ICUCollator::ApplyCollatorAttribute(int attr, int value)
         AppendCollationRules(rule, length);
         return;
     }
-    if (attr == IGNORE_DIGITS)
-    {
+    if (attr == IGNORE_DIGITS) {
         if (value != ON)
             return;
         char16_t const * const rule =
@@ -118,8 +110,7 @@ void ICUCollator::ApplyCollatorAttribute(int attr, int value)
         AppendCollationRules(rule, UnitCount(rule));
         return;
     }
-    VELTRIA_ASSERT_TEXT(
-        attr < VelICU::UCOL_ATTRIBUTE_COUNT, "(attr) < VelICU::UCOL_ATTRIBUTE_COUNT", 0xABF34D3D);
+    VELTRIA_ASSERT_TEXT(attr < VelICU::UCOL_ATTRIBUTE_COUNT, "(attr) < VelICU::UCOL_ATTRIBUTE_COUNT", 0xABF34D3D);
     SetAttribute(m_pUCollator, attr, value);
 }
 
@@ -157,13 +148,10 @@ void ICUCollator::AppendCollationRules(char16_t const * rule, int length)
         VelICU::t_ucol_openRules(rules.data(), static_cast<int>(rules.size()), -1, -1, parseError, status);
     if (changed == nullptr || ICU_FAILURE(status))
         ThrowICU(status);
-    try
-    {
+    try {
         for (ColAttributeCounter attribute; attribute.enumVal < ICU_ATTRIBUTE_COUNT; ++attribute)
             SetAttribute(changed, attribute.enumVal, GetAttribute(attribute.enumVal));
-    }
-    catch (...)
-    {
+    } catch (...) {
         VelICU::t_ucol_close(changed);
         throw;
     }
@@ -171,22 +159,42 @@ void ICUCollator::AppendCollationRules(char16_t const * rule, int length)
     m_pUCollator = changed;
 }
 
+void ICUCollator::UseTable(std::shared_ptr<CollationTable const> table)
+{
+    if (table == nullptr || GetAttribute(NUMERIC_COLLATION) == ON)
+        return;
+    bool const plainTies =
+        GetAttribute(FRENCH_COLLATION) != ON && GetAttribute(CASE_LEVEL) != ON && GetAttribute(CASE_FIRST) == OFF;
+    m_fast = CollationFastPath(std::move(table),
+                               {GetAttribute(STRENGTH), GetAttribute(ALTERNATE_HANDLING) == SHIFTED, plainTies});
+}
+
 int ICUCollator::Compare(char16_t const * a, int aLength, char16_t const * b, int bLength) const
 {
     VELTRIA_ASSERT(m_pUCollator, 0x5F14D391);
+    if (aLength >= 0 && bLength >= 0 && a != nullptr && b != nullptr) [[likely]] {
+        int const decided = m_fast.Compare(a, a + aLength, b, b + bLength);
+        if (decided != CollationFastPath::undecided)
+            return decided;
+    }
     return VelICU::t_ucol_strcoll(m_pUCollator, a, aLength, b, bLength);
 }
 
 int ICUCollator::Compare(char16_t const * a, char16_t const * b) const
 {
-    return Compare(a, -1, b, -1);
+    VELTRIA_ASSERT(m_pUCollator, 0x5F14D391);
+    if (a != nullptr && b != nullptr) [[likely]] {
+        int const decided = m_fast.Compare(a, b);
+        if (decided != CollationFastPath::undecided)
+            return decided;
+    }
+    return VelICU::t_ucol_strcoll(m_pUCollator, a, -1, b, -1);
 }
 
 VelICU::ICUStringSearch * ICUCollator::GetCollatorSearch(char16_t const * text, char16_t const * pattern) const
 {
     ICUErrorCode status = VelICU::U_ZERO_ERROR;
-    if (m_search != nullptr && m_searchPattern == pattern)
-    {
+    if (m_search != nullptr && m_searchPattern == pattern) {
         VelICU::t_usearch_setText(m_search, text, -1, status);
         return ICU_FAILURE(status) ? nullptr : m_search;
     }
@@ -195,8 +203,7 @@ VelICU::ICUStringSearch * ICUCollator::GetCollatorSearch(char16_t const * text, 
     m_searchPattern = TStringCore(pattern);
     VelICU::ICUStringSearch * const opened = VelICU::t_usearch_openFromCollator(
         m_searchPattern.constData(), m_searchPattern.length(), text, -1, m_pUCollator, status);
-    if (ICU_FAILURE(status))
-    {
+    if (ICU_FAILURE(status)) {
         VelICU::t_usearch_close(opened);
         return nullptr;
     }
@@ -213,8 +220,8 @@ int ICUCollator::Search(char16_t const * text, char16_t const * pattern, int sta
     if (search == nullptr)
         return -1;
     ICUErrorCode status = VelICU::U_ZERO_ERROR;
-    int const at = start > 0 ? VelICU::t_usearch_following(search, start, status)
-                             : VelICU::t_usearch_first(search, status);
+    int const at =
+        start > 0 ? VelICU::t_usearch_following(search, start, status) : VelICU::t_usearch_first(search, status);
     if (ICU_FAILURE(status))
         return -1;
     if (matchLength != nullptr)
@@ -227,9 +234,7 @@ int ICUCollator::Search(char16_t const * text, char16_t const * pattern) const
     return Search(text, pattern, 0, nullptr);
 }
 
-void ICUCollator::Replace(std::vector<char16_t> & out,
-                          char16_t const * text,
-                          char16_t const * pattern,
+void ICUCollator::Replace(std::vector<char16_t> & out, char16_t const * text, char16_t const * pattern,
                           char16_t const * replacement) const
 {
     VELTRIA_ASSERT(m_pUCollator, 0x80A3E088);
@@ -240,11 +245,9 @@ void ICUCollator::Replace(std::vector<char16_t> & out,
     VelICU::ICUStringSearch * const search = GetCollatorSearch(text, pattern);
     out.clear();
     int end = 0;
-    while (search != nullptr)
-    {
+    while (search != nullptr) {
         ICUErrorCode status = VelICU::U_ZERO_ERROR;
-        int const at =
-            end < 1 ? VelICU::t_usearch_first(search, status) : VelICU::t_usearch_next(search, status);
+        int const at = end < 1 ? VelICU::t_usearch_first(search, status) : VelICU::t_usearch_next(search, status);
         if (ICU_FAILURE(status) || at == VelICU::SEARCH_DONE)
             break;
         int const length = VelICU::t_usearch_getMatchedLength(search);
@@ -329,11 +332,16 @@ void ICUCollator::Trim(std::vector<char16_t> & out, char16_t const * text) const
 unsigned ICUCollator::Hash(char16_t const * text) const
 {
     VELTRIA_ASSERT(m_pUCollator, 0x2FCDB475);
+    if (text != nullptr) {
+        std::uint8_t key[CollationFastPath::maxKeySize];
+        std::size_t const size = m_fast.WriteSortKey(text, key);
+        if (size != 0)
+            return THash32(key, size, 0xDEADBEEFu);
+    }
     // The first request offers half the buffer.
     int capacity = static_cast<int>(std::min<std::size_t>(m_sortKeyBuffer.size() / 2, std::numeric_limits<int>::max()));
     int length = VelICU::t_ucol_getSortKey(m_pUCollator, text, -1, m_sortKeyBuffer.data(), capacity);
-    if (length > capacity)
-    {
+    if (length > capacity) {
         m_sortKeyBuffer.resize(2 * static_cast<std::size_t>(length));
         capacity = static_cast<int>(std::min<std::size_t>(m_sortKeyBuffer.size(), std::numeric_limits<int>::max()));
         length = VelICU::t_ucol_getSortKey(m_pUCollator, text, -1, m_sortKeyBuffer.data(), capacity);
@@ -350,19 +358,14 @@ bool ICUCollator::IsEquivalent(Collator const & other) const
         return false;
     if (m_pool == that->m_pool)
         return true;
-    if (m_locale != that->m_locale)
-    {
-        if (m_pool->IsWindowsSpecific())
-        {
+    if (m_locale != that->m_locale) {
+        if (m_pool->IsWindowsSpecific()) {
             if (m_locale.find(that->m_locale) == std::string::npos)
                 return false;
-        }
-        else if (that->m_pool->IsWindowsSpecific())
-        {
+        } else if (that->m_pool->IsWindowsSpecific()) {
             if (that->m_locale.find(m_locale) == std::string::npos)
                 return false;
-        }
-        else
+        } else
             return false;
     }
     for (ColAttributeCounter attribute; attribute.enumVal < ICU_ATTRIBUTE_COUNT; ++attribute)

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "main/data/CollationTable.h"
 #include "main/data/CollatorSpec.h"
 #include "velcoredata/data/Collator.h"
 #include "velcoredata/data/CollatorPool.h"
@@ -22,6 +24,12 @@ public:
     ICUCollator(ICUCollator const &) = delete;
     ICUCollator & operator=(ICUCollator const &) = delete;
 
+    // The handle, for building the table of this collator's rules.
+    VelICU::ICU_Collator const * GetHandle() const { return m_pUCollator; }
+    // Lets a table of the same rules answer what it can; ICU answers the rest.
+    void UseTable(std::shared_ptr<detail::CollationTable const> table);
+    detail::CollationFastPath const & GetFastPath() const { return m_fast; }
+
     // The value of one of ICU's own attributes, 0 to 7.
     int GetAttribute(int attribute) const;
 
@@ -29,9 +37,7 @@ public:
     int Compare(char16_t const * a, char16_t const * b) const override;
     int Search(char16_t const * text, char16_t const * pattern, int start, int * matchLength) const override;
     int Search(char16_t const * text, char16_t const * pattern) const override;
-    void Replace(std::vector<char16_t> & out,
-                 char16_t const * text,
-                 char16_t const * pattern,
+    void Replace(std::vector<char16_t> & out, char16_t const * text, char16_t const * pattern,
                  char16_t const * replacement) const override;
     bool StartsWith(char16_t const * text, char16_t const * pattern) const override;
     bool EndsWith(char16_t const * text, char16_t const * pattern) const override;
@@ -60,6 +66,7 @@ private:
     VelICU::ICU_Collator * m_pUCollator = nullptr;  // owned
     CollatorPool const * m_pool;
     std::string m_locale;
+    detail::CollationFastPath m_fast;
     mutable std::vector<std::uint8_t> m_sortKeyBuffer;
     mutable VelICU::ICUStringSearch * m_search = nullptr;  // owned; bound to m_searchPattern and m_pUCollator
     mutable TStringCore m_searchPattern;

@@ -3,18 +3,20 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <utility>
 
+#include "main/data/CollationTable.h"
 #include "main/data/CollatorAttributes.h"
 #include "main/data/ICUCollator.h"
 #include "velcoredata/string/CoreICUUtils.h"
 #include "velicu/LocaleNames.h"
+#include "velsys/NoDestructor.h"
 
 using namespace detail;
 using VelICU::ICUErrorCode;
 
-namespace
-{
+namespace {
 
 constexpr unsigned ignoreCase = 0x1;
 constexpr unsigned ignoreAccents = 0x2;
@@ -34,7 +36,7 @@ struct ThreadTable
 struct LastCollator
 {
     ICUCollatorPool const * pool;
-    ICUCollator const * collator;
+    ICUCollator * collator;
 };
 __attribute__((tls_model("initial-exec"))) thread_local LastCollator t_last{nullptr, nullptr};
 thread_local bool t_hasTable = false;
@@ -78,6 +80,33 @@ TString LanguageOf(std::string const & locale, TString const & keyName)
     return TString::fromLatin1(text);
 }
 
+// One table serves all pools with the same rules: those of one locale that ignore the same characters. Kept like the
+// pools.
+std::shared_ptr<CollationTable const> FindCollationTable(CollatorSpec const & spec,
+                                                         VelICU::ICU_Collator const * collator)
+{
+    struct Tables
+    {
+        std::mutex mutex;
+        std::map<std::string, std::shared_ptr<CollationTable const>> byRules;
+    };
+    static NoDestructor<Tables> tables;
+
+    std::string rules = spec.locale;
+    for (auto const & [attribute, value] : spec.attributes)
+        if ((attribute == WORDSORT || attribute == IGNORE_DIGITS) && value == ON)
+            rules += '|' + std::to_string(attribute);
+    {
+        std::lock_guard const lock(tables->mutex);
+        auto const found = tables->byRules.find(rules);
+        if (found != tables->byRules.end())
+            return found->second;
+    }
+    std::shared_ptr<CollationTable const> made = CollationTable::Make(collator);
+    std::lock_guard const lock(tables->mutex);
+    return tables->byRules.emplace(std::move(rules), std::move(made)).first->second;
+}
+
 }  // namespace
 
 ICUCollatorPool::ThreadEntry::~ThreadEntry()
@@ -92,7 +121,7 @@ ICUCollatorPool::ThreadEntry::~ThreadEntry()
 ICUCollatorPool::ICUCollatorPool(CollatorPoolKey const & key)
     : m_key(key), m_spec(ParseCollatorName(key.name)), m_threadEntry{this}
 {
-    ICUCollator const * const collator = GetICUCollator();
+    ICUCollator * const collator = GetICUCollator();
     m_name = m_key.name;
     m_lcid = LCIDFromLocaleName(m_spec.locale, 0x400);
     m_isWindowsSpecific = m_spec.locale.find("_WIN") != std::string::npos;
@@ -103,6 +132,8 @@ ICUCollatorPool::ICUCollatorPool(CollatorPoolKey const & key)
     m_localeName = TString::fromStdString(m_spec.locale);
     m_language = LanguageOf(m_spec.locale, m_key.name);
     DeriveFlags(*collator);
+    m_table = FindCollationTable(m_spec, collator->GetHandle());
+    collator->UseTable(m_table);
 }
 
 ICUCollatorPool::~ICUCollatorPool() = default;
@@ -126,18 +157,20 @@ Collator const * ICUCollatorPool::GetCollator() const
     return GetICUCollator();
 }
 
-ICUCollator const * ICUCollatorPool::GetICUCollator() const
+ICUCollator * ICUCollatorPool::GetICUCollator() const
 {
     if (t_last.pool == this)
         return t_last.collator;
     return FindOrMakeCollator();
 }
 
-ICUCollator const * ICUCollatorPool::FindOrMakeCollator() const
+ICUCollator * ICUCollatorPool::FindOrMakeCollator() const
 {
     std::shared_ptr<ICUCollator> & entry = MyTable().collators[this];
-    if (entry == nullptr)
+    if (entry == nullptr) {
         entry = std::make_shared<ICUCollator>(*this, m_key, m_spec);
+        entry->UseTable(m_table);
+    }
     t_last = {this, entry.get()};
     return entry.get();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "main/data/CollatorSpec.h"
@@ -7,6 +8,9 @@
 #include "velcoredata/data/CollatorPoolKey.h"
 
 class ICUCollator;
+namespace detail {
+class CollationTable;
+}
 
 // The description of one ICU collation. Immutable once built; each thread's collator stands in a thread-local table.
 class VELCOREDATA_API ICUCollatorPool final : public CollatorPool
@@ -37,8 +41,8 @@ private:
         ~ThreadEntry();
     };
 
-    ICUCollator const * GetICUCollator() const;
-    ICUCollator const * FindOrMakeCollator() const;
+    ICUCollator * GetICUCollator() const;
+    ICUCollator * FindOrMakeCollator() const;
     void DeriveFlags(ICUCollator const & collator);
 
     CollatorPoolKey m_key;
@@ -53,5 +57,6 @@ private:
     unsigned m_cmpFlags = 0;
     bool m_hasWordSort = false;
     bool m_isWindowsSpecific = false;
+    std::shared_ptr<detail::CollationTable const> m_table;  // null: ICU answers everything
     ThreadEntry m_threadEntry;
 };
