@@ -10,7 +10,8 @@ char const * FindLowestStackAddress()
 {
     // Room for the frames between two steps, for the exception's way out and for what runs after it.
     constexpr std::size_t reserve = 256 * 1024;
-    constexpr std::size_t most = 6 * 1024 * 1024;
+    // More frames than this allows are too many for the thread sanitizer's own stack records.
+    constexpr std::size_t most = 3 * 1024 * 1024;
 
     auto const here = static_cast<char const *>(__builtin_frame_address(0));
     char const * lowest = here - reserve;
@@ -22,7 +23,7 @@ char const * FindLowestStackAddress()
             lowest = static_cast<char const *>(base) + reserve;
         pthread_attr_destroy(&attributes);
     }
-    // An unlimited main stack reports more than may be there.
+    // An unlimited main stack also reports more than may be there.
     return here - lowest > static_cast<std::ptrdiff_t>(most) ? here - most : lowest;
 }
 

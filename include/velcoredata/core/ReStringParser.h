@@ -45,8 +45,8 @@ class RegExBackEnd;
 ///   bad pattern         the constructor throws                    every use raises a logic assertion
 ///                       boost::xpressive::regex_error             "LogicException_LogicAssert_0x9F2C6E14"
 ///   too much work       regex_error (error_stack when the         no match
-///                       thread's stack runs out, else
-///                       error_complexity)
+///                       thread's stack or 3 MB of it run
+///                       out, else error_complexity)
 ///
 /// "Too much work" bounds catastrophic patterns, such as (a+)+$ on a long row of a's. ICU gives up an attempt at
 /// 8,000,000 bytes of backtracking states (about a million open choices) or 20 million saved states; Xpressive at
