@@ -467,13 +467,13 @@ std::size_t CollationFastPath::WriteSortKey(char16_t const * text, std::uint8_t 
     return static_cast<std::size_t>(out - key);
 }
 
-bool CollationFastPath::PrimaryPrefix(char16_t const * text, char16_t const * end, std::uint64_t & prefix) const
+bool CollationFastPath::PrimaryPrefix(char16_t const * text, std::uint64_t & prefix) const
 {
     if (m_table == nullptr)
         return false;
     std::uint8_t bytes[16] = {};
     PrimaryWriter primaries(bytes);
-    LengthCursor cursor{text, end};
+    TerminatedCursor cursor{text};
     for (;;) {
         CollationWeights const * weights = nullptr;
         Step const step = Next(cursor, weights);

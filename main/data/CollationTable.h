@@ -91,7 +91,7 @@ public:
 
     // The first eight bytes of the primary level of the sort key as a big-endian number, zeros behind its end. False if
     // ICU must write the key.
-    bool PrimaryPrefix(char16_t const * text, char16_t const * end, std::uint64_t & prefix) const;
+    bool PrimaryPrefix(char16_t const * text, std::uint64_t & prefix) const;
 
 private:
     struct Cursor;

@@ -351,6 +351,23 @@ unsigned ICUCollator::Hash(char16_t const * text) const
     return THash32(m_sortKeyBuffer.data(), static_cast<std::size_t>(length), 0xDEADBEEFu);
 }
 
+std::uint64_t ICUCollator::KeyPrefix(char16_t const * text) const
+{
+    std::uint64_t prefix = 0;
+    if (m_fast.PrimaryPrefix(text, prefix))
+        return prefix;
+    // A long text's key is cut; its first bytes are the same.
+    std::uint8_t key[sortKeyBufferSize];
+    int const length = VelICU::t_ucol_getSortKey(m_pUCollator, text, -1, key, static_cast<int>(sizeof key));
+    bool ended = false;
+    for (int i = 0; i < 8; ++i) {
+        // 1 separates levels, and nothing lower stands inside one.
+        ended = ended || i >= length || key[i] <= 1;
+        prefix = prefix << 8 | (ended ? 0u : key[i]);
+    }
+    return prefix;
+}
+
 bool ICUCollator::IsEquivalent(Collator const & other) const
 {
     auto const * const that = dynamic_cast<ICUCollator const *>(&other);

@@ -28,6 +28,8 @@ public:
     VelICU::ICU_Collator const * GetHandle() const { return m_pUCollator; }
     // Lets a table of the same rules answer what it can; ICU answers the rest.
     void UseTable(std::shared_ptr<detail::CollationTable const> table);
+    // The first eight bytes of the primary level of the sort key, zeros behind its end.
+    std::uint64_t KeyPrefix(char16_t const * text) const;
     detail::CollationFastPath const & GetFastPath() const { return m_fast; }
 
     // The value of one of ICU's own attributes, 0 to 7.

@@ -3,7 +3,7 @@
 #include <atomic>
 #include <utility>
 
-#include "velcoredata/data/MruCache.h"
+#include "main/data/InternTable.h"
 
 namespace {
 
@@ -16,11 +16,11 @@ std::atomic<unsigned long long> stringPoolThreadLocalCacheSize{1000};
 struct StringWithCollationCache::Impl
 {
     Collation collation;
-    MruCache<unsigned, StringPtr, 1> strings;
+    detail::InternTable strings;
 };
 
 StringWithCollationCache::StringWithCollationCache(Collation const & collation, unsigned long long maximum)
-    : m_impl(new Impl{collation, MruCache<unsigned, StringPtr, 1>(maximum)})
+    : m_impl(new Impl{collation, detail::InternTable(maximum)})
 {}
 
 StringWithCollationCache::~StringWithCollationCache()
@@ -30,6 +30,9 @@ StringWithCollationCache::~StringWithCollationCache()
 
 StringPtr StringWithCollationCache::Lookup(TString const & text)
 {
+    // The same answer as by the collation hash, without computing one.
+    if (StringPtr known = m_impl->strings.LookupText(text))
+        return known;
     StringWithCollation candidate(text, m_impl->collation);
     unsigned const hash = candidate.GetHash();
     StringPtr found;

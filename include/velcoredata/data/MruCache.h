@@ -57,13 +57,16 @@ public:
             }
         } else {
             Node & node = *found->second;
+            OnLeaving(found->second);
             std::swap(node.value, value);
             m_size -= node.weight;
             node.weight = weight;
             MoveToFront(found->second);
         }
+        OnEntered(m_list.begin());
         m_size += weight;
         while (IsExceededBy(m_maximum, m_size)) {
+            OnLeaving(std::prev(m_list.end()));
             m_index.erase(m_list.back().key);
             m_size -= m_list.back().weight;
             m_list.pop_back();
@@ -73,6 +76,8 @@ public:
     void Clear()
     {
         AutoSynchronize lock(m_lock, 13, __FILE__, __func__, __LINE__);
+        for (auto node = m_list.begin(); node != m_list.end(); ++node)
+            OnLeaving(node);
         m_index.clear();
         m_list.clear();
         m_size = Weight();
@@ -85,7 +90,7 @@ public:
         return m_size;
     }
 
-private:
+protected:
     struct Node
     {
         Key key;
@@ -93,11 +98,24 @@ private:
         Weight weight;
     };
     using List = std::list<Node>;  // most recently used first
+    using Position = typename List::iterator;
 
-    void MoveToFront(typename List::iterator node) { m_list.splice(m_list.begin(), m_list, node); }
+    // For tables that find entries in another way too. Both are called under the lock: a value has come in, a value is
+    // about to go out. Neither may raise.
+    virtual void OnEntered(Position) {}
+    virtual void OnLeaving(Position) {}
 
+    TRecursiveMutex & GetLock() const { return m_lock; }
+    // Under the lock.
+    void MoveToFront(Position node)
+    {
+        if (node != m_list.begin())
+            m_list.splice(m_list.begin(), m_list, node);
+    }
+
+private:
     List m_list;
-    std::map<Key, typename List::iterator> m_index;
+    std::map<Key, Position> m_index;
     mutable TRecursiveMutex m_lock;
     Weight m_size;
     Weight m_maximum;
