@@ -102,7 +102,7 @@ bool DataValue::Less(DataValue const & a, DataValue const & b)
     }
 }
 
-unsigned DataValue::Hash() const
+unsigned DataValue::HashPayload() const
 {
     switch (GetDataType()) {
     case DataType::Real: return THash32(&m_payload, sizeof m_payload, THash32(&m_head, 1, kSeed));
@@ -120,7 +120,7 @@ unsigned DataValue::Hash() const
         break;
     default: break;
     }
-    return THash32(this, sizeof *this, kSeed);
+    return detail::HashTwoWords(m_head, m_payload, kSeed);
 }
 
 TString DataValue::FormatAsLiteral() const

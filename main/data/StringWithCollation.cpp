@@ -1,5 +1,8 @@
 #include "velcoredata/data/StringWithCollation.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 StringWithCollation::StringWithCollation(TString const & text, Collation const & collation)
@@ -49,18 +52,70 @@ unsigned StringWithCollation::ComputeHash() const
     return hash;
 }
 
+namespace {
+
+// The calling thread's collator. One address is one pool, so that equal addresses are equivalent collations.
+Collator const & CollatorOf(StringWithCollation const & text)
+{
+    return *text.GetCollation().GetCollator();
+}
+
+Collator const & Binary()
+{
+    static Collator const & s_binary = *GetBinaryCollation().GetCollator();
+    return s_binary;
+}
+
+constexpr bool HasZeroUnit(std::uint64_t fourUnits)
+{
+    return ((fourUnits - 0x0001000100010001u) & ~fourUnits & 0x8000800080008000u) != 0;
+}
+
+// The comparison of the binary collator on terminated texts, four code units at a time since the lengths are known.
+int CompareUnits(std::u16string_view a, std::u16string_view b)
+{
+    std::size_t const common = std::min(a.size(), b.size());
+    std::size_t i = 0;
+    for (; i + 4 <= common; i += 4) {
+        std::uint64_t x;
+        std::uint64_t y;
+        std::memcpy(&x, a.data() + i, sizeof x);
+        std::memcpy(&y, b.data() + i, sizeof y);
+        if (x != y)
+            break;
+        if (HasZeroUnit(x))
+            return 0;
+    }
+    for (;; ++i) {
+        char16_t const x = i < a.size() ? a[i] : u'\0';
+        char16_t const y = i < b.size() ? b[i] : u'\0';
+        if (x != y)
+            return x < y ? -1 : 1;
+        if (x == u'\0')
+            return 0;
+    }
+}
+
+}  // namespace
+
 bool operator==(StringWithCollation const & a, StringWithCollation const & b)
 {
     if (a.HasHash() && b.HasHash() && a.GetHash() != b.GetHash())
         return false;
-    if (!a.GetCollation().IsEquivalent(b.GetCollation()))
+    Collator const & collator = CollatorOf(a);
+    if (&collator != &CollatorOf(b) && !a.GetCollation().IsEquivalent(b.GetCollation()))
         return false;
-    return a.GetCollation().Compare(a.GetString(), b.GetString()) == 0;
+    if (&collator == &Binary())
+        return CompareUnits(a.GetString().View(), b.GetString().View()) == 0;
+    return collator.Compare(a.GetString(), b.GetString()) == 0;
 }
 
 bool operator<(StringWithCollation const & a, StringWithCollation const & b)
 {
-    if (Equivalent(a.GetCollation(), b.GetCollation()))
-        return a.GetCollation().Compare(a.GetString(), b.GetString()) < 0;
-    return a.GetCollation() < b.GetCollation();
+    Collator const & collator = CollatorOf(a);
+    if (&collator != &CollatorOf(b) && !Equivalent(a.GetCollation(), b.GetCollation()))
+        return a.GetCollation() < b.GetCollation();
+    if (&collator == &Binary())
+        return CompareUnits(a.GetString().View(), b.GetString().View()) < 0;
+    return collator.Compare(a.GetString(), b.GetString()) < 0;
 }

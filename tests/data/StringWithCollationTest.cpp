@@ -1,6 +1,9 @@
 #include "velcoredata/data/StringWithCollation.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <random>
 
 #include <utility>
 
@@ -11,6 +14,29 @@ namespace {
 StringWithCollation Under(char16_t const * name, char16_t const * text)
 {
     return StringWithCollation(text, Collation(name, 0));
+}
+
+TEST(StringWithCollation, BinaryTextsCompareAsTheBinaryCollatorComparesThem)
+{
+    Collator const & collator = *GetBinaryCollation().GetCollator();
+    std::mt19937 random(7);
+    auto const unit = [&random] {
+        constexpr char16_t units[] = {u'a', u'a', u'a', u'b', u'\0', u'\u00E9', 0xD83D, 0xDE00, 0xFFFF};
+        return units[random() % std::size(units)];
+    };
+    for (int round = 0; round < 200000; ++round) {
+        std::u16string a(random() % 14, u'a');
+        std::generate(a.begin(), a.end(), unit);
+        std::u16string b = a.substr(0, random() % (a.size() + 1));
+        while (random() % 3 != 0)
+            b += unit();
+        StringWithCollation const x(TString::fromView(a), GetBinaryCollation());
+        StringWithCollation const y(TString::fromView(b), GetBinaryCollation());
+        int const order = collator.Compare(x.GetString(), y.GetString());
+        ASSERT_EQ(x == y, order == 0) << round;
+        ASSERT_EQ(x < y, order < 0) << round;
+        ASSERT_EQ(y<x, order> 0) << round;
+    }
 }
 
 }  // namespace

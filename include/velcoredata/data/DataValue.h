@@ -40,6 +40,7 @@
 #include "velcoredata/data/DateTime.h"
 #include "velcoredata/data/Time.h"
 #include "velcoreplatform/TString.h"
+#include "velsys/Hash.h"
 #include "velsys/RefCntObject.h"
 #include "velsys/RefCntPtr.h"
 
@@ -281,7 +282,11 @@ public:
 
     // The hash of a Real leaves precision and scale out; a string's is its collation hash; all others count every
     // field.
-    unsigned Hash() const;
+    unsigned Hash() const
+    {
+        return ((kHashedByPayload >> (m_head & 31)) & 1) == 0 ? detail::HashTwoWords(m_head, m_payload, 0xdeadbeefu)
+                                                              : HashPayload();
+    }
 
     // What a query language would read: NULL, 3, 3., "text" with quotes doubled, true, #2020-01-02#,
     // #2020-01-02 12:00:00.005#; empty for tuples, binary data and unknown values. Reals have 17 significant digits and
@@ -318,10 +323,14 @@ private:
                                                1u << static_cast<unsigned>(DataType::Tuple) |
                                                1u << static_cast<unsigned>(DataType::Spatial);
 
+    static constexpr std::uint32_t kHashedByPayload = kCompared | 1u << static_cast<unsigned>(DataType::Real);
+
+    unsigned HashPayload() const;
     bool HasComparedPayload() const noexcept { return ((kCompared >> (m_head & 31)) & 1) != 0; }
     static bool EqualPayloads(DataValue const & a, DataValue const & b);
     static bool Less(DataValue const & a, DataValue const & b);
-    bool OwnsPayload() const noexcept { return m_payload != 0 && ((kOwned >> (m_head & 31)) & 1) != 0; }
+    // The type first: the payload of a scalar is not even loaded.
+    bool OwnsPayload() const noexcept { return ((kOwned >> (m_head & 31)) & 1) != 0 && m_payload != 0; }
     RefCntObject const * Counted() const noexcept { return reinterpret_cast<RefCntObject const *>(m_payload); }
     void TakeReference()
     {

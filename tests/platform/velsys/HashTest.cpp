@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <random>
+
 namespace {
 
 TEST(THash32, IsTheSameForTheSameBytesAndSeed)
@@ -103,6 +106,18 @@ TEST(THash128, DependsOnTheBytesAndOnBothSeeds)
     EXPECT_NE(hash, THash128("text", 4, 0xcafebabe, 0xdeadbeef));
     EXPECT_NE(hash.first, hash.second);
     EXPECT_EQ(THash128(nullptr, 0, 1, 2), THash128("", 0, 1, 2));
+}
+
+TEST(Hash, TheHashOfTwoWordsInLineIsThatOfTheirSixteenBytes)
+{
+    std::mt19937_64 random(5);
+    for (int round = 0; round < 100000; ++round) {
+        std::uint64_t const words[2] = {random(), round % 3 == 0 ? round : random()};
+        auto const seed = static_cast<unsigned>(random());
+        ASSERT_EQ(detail::HashTwoWords(words[0], words[1], seed), THash32(words, sizeof words, seed));
+    }
+    std::uint64_t const zeros[2] = {0, 0};
+    EXPECT_EQ(detail::HashTwoWords(0, 0, 0xdeadbeefu), THash32(zeros, sizeof zeros, 0xdeadbeefu));
 }
 
 }  // namespace
