@@ -6,7 +6,8 @@
 /// (`TRUNC_`). An AggType numbers every aggregation of the platform; this library knows the range 14 to 41 and hands
 /// all other numbers through untouched. The numbers are stored by callers and never change.
 ///
-/// The three uncommon parts 23 to 25 are listed by GregorianDateOptions; their meaning belongs to the layers above.
+/// The three uncommon aggregations (23, 24, 25) are listed by GregorianDateOptions; their meaning belongs to the layers
+/// above.
 enum AggType : std::int32_t
 {
     AGG_YEAR = 14,
