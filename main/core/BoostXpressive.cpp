@@ -196,7 +196,10 @@ Regex Compile(char16_t const * pattern, unsigned flags)
                             ? xpressive::regex_constants::icase_ | xpressive::regex_constants::ECMAScript
                             : xpressive::regex_constants::ECMAScript;
     xpressive::regex_compiler<GuardedIterator, UnicodeTraits> compiler;
-    return compiler.compile(text.data(), text.data() + text.size(), syntax);
+    // The parser has loops without end of its own, as on "(?#*)".
+    MatchGuard guard(text.size());
+    return compiler.compile(GuardedIterator(text.data(), guard), GuardedIterator(text.data() + text.size(), guard),
+                            syntax);
 }
 
 // The text of one operation, with its own bound.

@@ -255,6 +255,10 @@ TEST(ReStringParser, HostilePatternsOfXpressiveEndInItsException)
     EXPECT_THROW(Make(u"(.)*", RegExParserXpressive)->match(million), std::exception);
     EXPECT_TRUE(Make(u".*", RegExParserXpressive)->match(million));
 
+    EXPECT_THROW(Make(u"(?#*)", RegExParserXpressive), std::exception);
+    EXPECT_THROW(Make(u"a(?#9-.{1,3}", RegExParserXpressive), std::exception);
+    EXPECT_TRUE(Make(u"a(?#note)b", RegExParserXpressive)->match(u"ab"));
+
     std::u16string const deep = std::u16string(100'000, u'(') + std::u16string(100'000, u')');
     EXPECT_THROW(Make(deep.c_str(), RegExParserXpressive), std::exception);
     EXPECT_THROW(Make(std::u16string(2049, u'a').c_str(), RegExParserXpressive), std::exception);

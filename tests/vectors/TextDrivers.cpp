@@ -1,13 +1,17 @@
 // Drivers of the tables text_*.
 
-#include <deque>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "tests/vectors/VectorDriver.h"
 #include "velcoredata/core/RandomCache.h"
 #include "velcoredata/core/StringUtils.h"
+#include "velcoredata/data/Collation.h"
+#include "velcoredata/data/DataValue.h"
+#include "velcoredata/data/PrintableString.h"
+#include "velcoredata/data/StringWithCollation.h"
 #include "velsys/VeltriaException.h"
 
 namespace {
@@ -200,5 +204,15 @@ VECTOR_DRIVER("text_random_cache")
 
 VECTOR_DRIVER("text_escape_string")
 {
-    row.Skip("the escapes of value text and the printable form of strings are not part of the text tools");
+    std::string const fn = row.Cell("fn");
+    if (fn == "toPrintableString") {
+        row.ExpectCell("expected", velcoredata::vectors::EscapeText(
+                                       TString::fromStdString(toPrintableString(TextOf(row, "text"))).View()));
+    } else if (fn == "string_literal_stream") {
+        std::ostringstream out;
+        out << DataValue(StringWithCollation(TextOf(row, "text"), GetBinaryCollation()));
+        row.ExpectCell("expected", velcoredata::vectors::EscapeText(TString::fromStdString(out.str()).View()));
+    } else {
+        row.Skip("the escapes of value text are not part of the text tools");
+    }
 }
