@@ -6,6 +6,7 @@
 
 #include "main/data/CollatorAttributes.h"
 #include "velicu/ICUCollationElements.h"
+#include "velsys/NoDestructor.h"
 
 namespace detail {
 
@@ -64,6 +65,7 @@ public:
         if (!MarkContractions(*table))
             return nullptr;
         FindRuns(*table);
+        FindSimpleBytes(*table);
         return table;
     }
 
@@ -98,11 +100,12 @@ private:
         std::string const key = KeyOf(m_tertiary, &c, 1);
         if (key == "\x01\x01") {
             weights.primary = 0;
+            weights.third = CollationWeights::starts;
             return weights;
         }
         std::size_t const primaryEnd = key.find('\x01');
         if (primaryEnd == 0 || primaryEnd > 4)
-            return weights;
+            return CollationWeights();
         std::uint32_t primary = 0;
         for (std::size_t i = 0; i < 4; ++i)
             primary = primary << 8 | (i < primaryEnd ? static_cast<std::uint8_t>(key[i]) : 0u);
@@ -113,10 +116,10 @@ private:
         } else {
             if (!VelICU::t_ucol_getElements(m_tertiary.get(), &c, 1, m_elements) || m_elements.empty() ||
                 m_elements[0].primary == 0)
-                return weights;
+                return CollationWeights();
             for (std::size_t i = 1; i < m_elements.size(); ++i)
                 if (m_elements[i].primary != 0)
-                    return weights;
+                    return CollationWeights();
             weights.secondary = m_elements[0].secondary;
             weights.third = m_elements[0].tertiary & CollationWeights::weightMask;
             if (m_elements.size() > 1)
@@ -135,7 +138,7 @@ private:
             return false;
         auto const mark = [&](char16_t c, std::uint16_t bit) {
             CollationWeights const * const page = table.m_pages[c >> 8];
-            if (page != nullptr)
+            if (IsHeldPage(c >> 8))
                 table.m_weights[static_cast<std::size_t>(page - table.m_weights.data()) + (c & 0xFF)].third |= bit;
         };
         for (std::u16string const & text : contractions) {
@@ -154,10 +157,7 @@ private:
     {
         bool differ[256] = {};
         for (unsigned c = 0; c < 0x10000; c += c < firstHan ? 1 : 61) {
-            CollationWeights const * const page = table.m_pages[c >> 8];
-            if (page == nullptr)
-                continue;
-            CollationWeights const & weights = page[c & 0xFF];
+            CollationWeights const & weights = table.m_pages[c >> 8][c & 0xFF];
             if (weights.primary == CollationWeights::notHeld || weights.primary == 0 ||
                 (weights.third & (CollationWeights::several | CollationWeights::starts)) != 0)
                 continue;
@@ -177,11 +177,33 @@ private:
                 table.m_runs[first] = Runs::unknown;
     }
 
+    static void FindSimpleBytes(CollationTable & table)
+    {
+        for (unsigned c = 0; c < 128; ++c) {
+            CollationWeights const & weights = table.m_pages[0][c];
+            if (weights.third == 0x0500 && weights.secondary == 0x0500 && (weights.primary & 0x00FFFFFF) == 0 &&
+                table.RunsOf(weights.primary) == Runs::eachTime)
+                table.m_simpleBytes[c] = static_cast<std::uint8_t>(weights.primary >> 24);
+        }
+    }
+
     OwnedCollator m_tertiary;
     OwnedCollator m_primary;
     OwnedCollator m_shifted;
     std::vector<VelICU::ICUCollationElement> m_elements;
 };
+
+CollationTable::CollationTable()
+{
+    static CollationWeights const nothing[256];
+    std::fill(std::begin(m_pages), std::end(m_pages), nothing);
+}
+
+CollationTable const & CollationTable::Empty()
+{
+    static NoDestructor<CollationTable> empty{CollationTable()};
+    return *empty;
+}
 
 std::shared_ptr<CollationTable const> CollationTable::Make(VelICU::ICU_Collator const * collator)
 {
@@ -214,14 +236,9 @@ CollationFastPath::CollationFastPath(std::shared_ptr<CollationTable const> table
     : m_owner(std::move(table)),
       m_table(m_owner.get()),
       m_settings(settings),
-      m_stops(settings.shifted ? CollationWeights::variable : 0)
+      m_stops(settings.shifted ? CollationWeights::variable : 0),
+      m_slow(static_cast<std::uint16_t>(m_stops | CollationWeights::starts | CollationWeights::continues))
 {}
-
-inline CollationWeights const * CollationFastPath::Find(char16_t c) const
-{
-    CollationWeights const * const page = m_table->Page(c >> 8);
-    return page == nullptr ? nullptr : page + (c & 0xFF);
-}
 
 template <class TextCursor>
 inline CollationFastPath::Step CollationFastPath::Next(TextCursor & text, CollationWeights const *& weights) const
@@ -229,20 +246,22 @@ inline CollationFastPath::Step CollationFastPath::Next(TextCursor & text, Collat
     for (;;) {
         if (text.AtEnd())
             return Step::end;
-        CollationWeights const * const found = Find(*text.at);
-        if (found == nullptr || found->primary == CollationWeights::notHeld || (found->third & m_stops) != 0)
-            return Step::undecided;
-        ++text.at;
-        if ((found->third & CollationWeights::starts) != 0 && !text.AtEnd()) {
-            CollationWeights const * const follower = Find(*text.at);
-            if (follower == nullptr || follower->primary == CollationWeights::notHeld ||
-                (follower->third & CollationWeights::continues) != 0)
+        CollationWeights const & found = Find(*text.at);
+        if ((found.third & m_slow) != 0) {
+            if (found.primary == CollationWeights::notHeld || (found.third & m_stops) != 0)
                 return Step::undecided;
+            ++text.at;
+            // All bits are set where nothing is held, so that a contraction with such a follower counts as possible.
+            if ((found.third & CollationWeights::starts) != 0 && !text.AtEnd() &&
+                (Find(*text.at).third & CollationWeights::continues) != 0)
+                return Step::undecided;
+            if (found.primary == 0)
+                continue;
+        } else {
+            ++text.at;
         }
-        if (found->primary != 0) {
-            weights = found;
-            return Step::weights;
-        }
+        weights = &found;
+        return Step::weights;
     }
 }
 
@@ -269,20 +288,13 @@ inline int CollationFastPath::CompareFrom(TextCursor a, TextCursor b, char16_t c
         // The difference may lie inside a contraction that begins in the common part.
         if (IsIndexCharacter(*before))
             return undecided;
-        bool inside = false;
-        for (TextCursor const & text : {a, b})
-            if (!text.AtEnd()) {
-                CollationWeights const * const weights = Find(*text.at);
-                inside = inside || weights == nullptr || (weights->third & CollationWeights::continues) != 0;
-            }
-        if (inside) {
-            CollationWeights const * const weights = Find(*before);
-            if (weights == nullptr || weights->primary == CollationWeights::notHeld ||
-                (weights->third & (CollationWeights::starts | CollationWeights::continues)) != 0)
-                return undecided;
-        }
+        auto const continues = [&](TextCursor const & text) {
+            return !text.AtEnd() && (Find(*text.at).third & CollationWeights::continues) != 0;
+        };
+        if ((continues(a) || continues(b)) &&
+            (Find(*before).third & (CollationWeights::starts | CollationWeights::continues)) != 0)
+            return undecided;
     }
-
     int secondary = 0;
     int tertiary = 0;
     bool several = false;
@@ -311,10 +323,8 @@ inline int CollationFastPath::CompareFrom(TextCursor a, TextCursor b, char16_t c
     }
 }
 
-int CollationFastPath::Compare(char16_t const * a, char16_t const * b) const
+int CollationFastPath::CompareTerminated(char16_t const * a, char16_t const * b) const
 {
-    if (m_table == nullptr)
-        return undecided;
     char16_t const * const start = a;
     while (*a == *b) {
         if (*a == 0)
@@ -325,20 +335,20 @@ int CollationFastPath::Compare(char16_t const * a, char16_t const * b) const
     return CompareFrom(TerminatedCursor{a}, TerminatedCursor{b}, a == start ? nullptr : a - 1);
 }
 
-int CollationFastPath::Compare(char16_t const * a, char16_t const * aEnd, char16_t const * b,
-                               char16_t const * bEnd) const
+int CollationFastPath::CompareLengths(char16_t const * a, char16_t const * aEnd, char16_t const * b,
+                                      char16_t const * bEnd) const
 {
-    if (m_table == nullptr)
-        return undecided;
     char16_t const * const start = a;
     auto left = std::min(aEnd - a, bEnd - b);
-    for (; left >= 8 && std::memcmp(a, b, 16) == 0; left -= 8) {
-        a += 8;
-        b += 8;
-    }
-    for (; left > 0 && *a == *b; --left) {
-        ++a;
-        ++b;
+    if (left > 0 && *a == *b) {
+        for (; left >= 8 && std::memcmp(a, b, 16) == 0; left -= 8) {
+            a += 8;
+            b += 8;
+        }
+        for (; left > 0 && *a == *b; --left) {
+            ++a;
+            ++b;
+        }
     }
     if (a == aEnd && b == bEnd)
         return 0;
@@ -365,6 +375,12 @@ public:
     {
         if (runs == CollationTable::Runs::unknown)
             return false;
+        if (m_last == 0 && (primary & 0x00FFFFFF) == 0) {
+            // A single byte, as the letters of the root have.
+            *m_out++ = static_cast<std::uint8_t>(primary >> 24);
+            m_last = runs == CollationTable::Runs::once ? primary : 0;
+            return true;
+        }
         bool const compressible = runs == CollationTable::Runs::once;
         auto const first = static_cast<std::uint8_t>(primary >> 24);
         if (!compressible || first != m_last >> 24) {
@@ -385,6 +401,9 @@ public:
         }
         return true;
     }
+    // A weight of one byte that is written each time, where no run is open.
+    bool HasOpenRun() const { return m_last != 0; }
+    void AppendByte(std::uint8_t byte) { *m_out++ = byte; }
     std::uint8_t * End() const { return m_out; }
 
 private:
@@ -422,46 +441,52 @@ std::size_t CollationFastPath::WriteSortKey(char16_t const * text, std::uint8_t 
 {
     // Six bytes of primaries and three of tertiaries for each character at most.
     constexpr int maxLength = 200;
-    if (m_table == nullptr || !m_settings.plainTies || m_settings.strength > TERTIARY)
+    if (m_owner == nullptr || !m_settings.plainTies || m_settings.strength > TERTIARY)
         return 0;
-    std::uint16_t tertiaries[maxLength];
-    unsigned count = 0;
+    std::uint8_t tertiaries[3 * maxLength + 8];
+    std::uint8_t * tertiaryEnd = tertiaries;
+    unsigned common = 0;
+    int count = 0;
     PrimaryWriter primaries(key);
-    TerminatedCursor cursor{text};
-    for (;;) {
+    for (TerminatedCursor cursor{text};; ++count) {
+        if (count == maxLength)
+            return 0;
+        std::uint8_t const byte = m_table->SimpleByte(*cursor.at);
+        if (byte != 0 && !primaries.HasOpenRun()) {
+            primaries.AppendByte(byte);
+            ++common;
+            ++cursor.at;
+            continue;
+        }
         CollationWeights const * weights = nullptr;
         Step const step = Next(cursor, weights);
         if (step == Step::end)
             break;
-        if (step == Step::undecided || count == maxLength)
+        if (step == Step::undecided)
             return 0;
-        auto const tertiary = static_cast<std::uint16_t>(weights->third & CollationWeights::weightMask);
+        unsigned const tertiary = weights->third & CollationWeights::weightMask;
         if ((weights->third & CollationWeights::several) != 0 || weights->secondary != commonWeight ||
             tertiary < commonWeight || !primaries.Append(weights->primary, m_table->RunsOf(weights->primary)))
             return 0;
-        tertiaries[count++] = tertiary;
+        if (tertiary == commonWeight) {
+            ++common;
+            continue;
+        }
+        tertiaryEnd = AppendCommonBeforeHigher(tertiaryEnd, common);
+        common = 0;
+        *tertiaryEnd++ = static_cast<std::uint8_t>((tertiary + 0xC000u) >> 8);
+        if ((tertiary & 0xFF) != 0)
+            *tertiaryEnd++ = static_cast<std::uint8_t>(tertiary);
     }
     std::uint8_t * out = primaries.End();
     if (m_settings.strength >= SECONDARY) {
         *out++ = levelSeparator;
-        out = AppendCommonToEnd(out, count, 0x21, 0x25);
+        out = AppendCommonToEnd(out, static_cast<unsigned>(count), 0x21, 0x25);
     }
     if (m_settings.strength >= TERTIARY) {
         *out++ = levelSeparator;
-        unsigned common = 0;
-        for (unsigned i = 0; i < count; ++i) {
-            if (tertiaries[i] == commonWeight) {
-                ++common;
-                continue;
-            }
-            out = AppendCommonBeforeHigher(out, common);
-            common = 0;
-            unsigned const weight = tertiaries[i] + 0xC000u;
-            *out++ = static_cast<std::uint8_t>(weight >> 8);
-            if ((weight & 0xFF) != 0)
-                *out++ = static_cast<std::uint8_t>(weight);
-        }
-        out = AppendCommonToEnd(out, common, 0x61, 0x65);
+        tertiaryEnd = AppendCommonToEnd(tertiaryEnd, common, 0x61, 0x65);
+        out = std::copy(tertiaries, tertiaryEnd, out);
     }
     *out++ = 0;
     return static_cast<std::size_t>(out - key);
@@ -469,8 +494,6 @@ std::size_t CollationFastPath::WriteSortKey(char16_t const * text, std::uint8_t 
 
 bool CollationFastPath::PrimaryPrefix(char16_t const * text, std::uint64_t & prefix) const
 {
-    if (m_table == nullptr)
-        return false;
     std::uint8_t bytes[16] = {};
     PrimaryWriter primaries(bytes);
     TerminatedCursor cursor{text};

@@ -20,20 +20,23 @@ public:
     InternedString LookupText(TString const & text);
 
 private:
-    // Open addressing: a hit costs one slot and the entry. Emptied slots are closed up, so there are no grave marks.
+    // Open addressing: a hit costs one slot, the text and the entry. Emptied slots are closed up, so there are no grave
+    // marks.
     struct Slot
     {
         unsigned hash = 0;  // of the text; 0 is an empty slot
-        Position entry{};
+        int length = 0;
+        char16_t const * text = nullptr;  // the entry's own
+        Node * entry = nullptr;
     };
 
-    void OnEntered(Position entry) override;
-    void OnLeaving(Position entry) override;
+    void OnEntered(Node & entry) override;
+    void OnLeaving(Node & entry) override;
 
     static unsigned SlotHash(TString const & text);
     std::size_t Next(std::size_t i) const { return (i + 1) & (m_slots.size() - 1); }
     std::size_t Home(unsigned hash) const { return hash & (m_slots.size() - 1); }
-    void Insert(unsigned hash, Position entry);
+    void Insert(Slot const & slot);
 
     std::vector<Slot> m_slots;  // a power of two, at most half full
     std::size_t m_used = 0;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <iterator>
-#include <list>
 #include <map>
 #include <utility>
 
@@ -34,7 +32,7 @@ public:
         if (found == m_index.end())
             return false;
         MoveToFront(found->second);
-        value = found->second->value;
+        value = found->second.value;
         return true;
     }
 
@@ -48,38 +46,38 @@ public:
         AutoSynchronize lock(m_lock, 13, __FILE__, __func__, __LINE__);
         auto const found = m_index.find(key);
         if (found == m_index.end()) {
-            m_list.push_front(Node{key, std::move(value), weight});
-            auto const result = m_index.emplace(key, m_list.begin());
-            if (!result.second) [[unlikely]] {
-                m_list.pop_front();
+            auto const result = m_index.try_emplace(key, std::move(value), weight);
+            if (!result.second) [[unlikely]]
                 ThrowLogicException(__FILE__, __LINE__, "result.second == true",
                                     VelcoreplatformError::LogicAssert_0x4CE9D476());
-            }
+            result.first->second.self = result.first;
+            LinkInFront(result.first->second);
         } else {
-            Node & node = *found->second;
-            OnLeaving(found->second);
+            Node & node = found->second;
+            OnLeaving(node);
             std::swap(node.value, value);
             m_size -= node.weight;
             node.weight = weight;
-            MoveToFront(found->second);
+            MoveToFront(node);
         }
-        OnEntered(m_list.begin());
+        OnEntered(Front());
         m_size += weight;
         while (IsExceededBy(m_maximum, m_size)) {
-            OnLeaving(std::prev(m_list.end()));
-            m_index.erase(m_list.back().key);
-            m_size -= m_list.back().weight;
-            m_list.pop_back();
+            Node & last = static_cast<Node &>(*m_ends.previous);
+            OnLeaving(last);
+            m_size -= last.weight;
+            Unlink(last);
+            m_index.erase(last.self);
         }
     }
 
     void Clear()
     {
         AutoSynchronize lock(m_lock, 13, __FILE__, __func__, __LINE__);
-        for (auto node = m_list.begin(); node != m_list.end(); ++node)
+        for (auto & [key, node] : m_index)
             OnLeaving(node);
         m_index.clear();
-        m_list.clear();
+        m_ends = Link();
         m_size = Weight();
     }
 
@@ -91,31 +89,63 @@ public:
     }
 
 protected:
-    struct Node
+    struct Node;
+    // A ring through the entries and the table itself, most recently used first. std::list would cost a call into the
+    // library to move an entry and a second block for each.
+    struct Link
     {
-        Key key;
+        Link() : next(this), previous(this) {}
+        Link(Link const &) : Link() {}
+        Link & operator=(Link const &)
+        {
+            next = previous = this;
+            return *this;
+        }
+
+        Link * next;
+        Link * previous;
+    };
+    struct Node : Link
+    {
+        Node(Value && initial, Weight const & size) : value(std::move(initial)), weight(size) {}
+
         Value value;
         Weight weight;
+        typename std::map<Key, Node>::iterator self;
     };
-    using List = std::list<Node>;  // most recently used first
-    using Position = typename List::iterator;
 
     // For tables that find entries in another way too. Both are called under the lock: a value has come in, a value is
-    // about to go out. Neither may raise.
-    virtual void OnEntered(Position) {}
-    virtual void OnLeaving(Position) {}
+    // about to go out.
+    virtual void OnEntered(Node &) {}
+    virtual void OnLeaving(Node &) {}
 
     TRecursiveMutex & GetLock() const { return m_lock; }
     // Under the lock.
-    void MoveToFront(Position node)
+    void MoveToFront(Node & node)
     {
-        if (node != m_list.begin())
-            m_list.splice(m_list.begin(), m_list, node);
+        if (m_ends.next == &node)
+            return;
+        Unlink(node);
+        LinkInFront(node);
     }
 
 private:
-    List m_list;
-    std::map<Key, Position> m_index;
+    Node & Front() { return static_cast<Node &>(*m_ends.next); }
+    static void Unlink(Node & node)
+    {
+        node.previous->next = node.next;
+        node.next->previous = node.previous;
+    }
+    void LinkInFront(Node & node)
+    {
+        node.next = m_ends.next;
+        node.previous = &m_ends;
+        m_ends.next->previous = &node;
+        m_ends.next = &node;
+    }
+
+    Link m_ends;
+    std::map<Key, Node> m_index;
     mutable TRecursiveMutex m_lock;
     Weight m_size;
     Weight m_maximum;
