@@ -1,5 +1,7 @@
 #include "velcoredata/data/Bucket.h"
 
+#include <algorithm>
+
 #include "velsys/Hash.h"
 
 unsigned MultiBucket::Hash() const

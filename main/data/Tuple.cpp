@@ -1,10 +1,38 @@
 #include "velcoredata/data/Tuple.h"
 
-#include <algorithm>
-
+#include "main/data/ValuePayload.h"
 #include "velcoredata/data/DataValueInspector.h"
 #include "velsys/Hash.h"
 #include "velsys/ThrowSite.h"
+
+namespace {
+
+int Order(Tuple const & a, Tuple const & b);
+
+// -1 for a < b, 1 for b < a, else 0. Tuples within tuples are walked once: asking a < b and then b < a of each level
+// would double the work with every level.
+int Order(DataValue const & a, DataValue const & b)
+{
+    bool const tuples = a.GetDataType() == DataType::Tuple && b.GetDataType() == DataType::Tuple &&
+                        a.GetSpecial() == b.GetSpecial() && a.GetAny() != 0 && b.GetAny() != 0;
+    if (tuples)
+        return Order(*detail::TuplePayload(a), *detail::TuplePayload(b));
+    if (a < b)
+        return -1;
+    return b < a ? 1 : 0;
+}
+
+int Order(Tuple const & a, Tuple const & b)
+{
+    if (a.GetSize() != b.GetSize())
+        return a.GetSize() < b.GetSize() ? -1 : 1;
+    for (std::size_t i = 0; i < a.GetValues().size(); ++i)
+        if (int const order = Order(a.GetValues()[i], b.GetValues()[i]))
+            return order;
+    return 0;
+}
+
+}  // namespace
 
 Tuple::Tuple(std::vector<DataValue> && values) : m_values(std::move(values)) {}
 
@@ -57,8 +85,5 @@ bool operator==(Tuple const & a, Tuple const & b)
 
 bool operator<(Tuple const & a, Tuple const & b)
 {
-    if (a.GetSize() != b.GetSize())
-        return a.GetSize() < b.GetSize();
-    return std::lexicographical_compare(a.GetValues().begin(), a.GetValues().end(), b.GetValues().begin(),
-                                        b.GetValues().end());
+    return Order(a, b) < 0;
 }

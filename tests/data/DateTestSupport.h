@@ -1,9 +1,9 @@
 #pragma once
 
+#include "tests/support/DatePrinter.h"
 #include "velcoredata/data/DateEnums.h"
 #include "velcoredata/data/DateTime.h"
 
-#include <ostream>
 #include <random>
 
 namespace test_support {
@@ -38,11 +38,3 @@ inline DateTime RandomDateTime(std::mt19937_64 & random, DateTime const & first,
 }
 
 }  // namespace test_support
-
-// A failing test shows a readable date instead of bytes.
-inline void PrintTo(DateTime const & value, std::ostream * out)
-{
-    DateTime::YearMonthDay const date = value.GetYearMonthDay();
-    *out << date.year << '-' << date.month << '-' << date.day << ' ' << value.GetHour() << ':' << value.GetMinute()
-         << ':' << value.GetSecond() << " + " << value.GetFraction() << " (" << value.GetRepresentation() << ')';
-}

@@ -3,12 +3,17 @@
 //   a == b implies a.Hash() == b.Hash()
 //   a < b  <=>  a is shorter, or of the same size and lexicographically less by < of DataValue
 //
+// Order is transitive as far as that of the members is: tuples that hold Integers and Reals above 2^53 in the same
+// place need not be.
+//
+// Tuples may hold tuples. Destruction, hash, equality and order descend once a level and cost stack for it: a thousand
+// levels are safe in every build on a stack of 8 MiB.
+//
 // The length is fixed. Once a value or another thread holds it, a tuple is not changed; its hash is filled in on the
 // first call, by whichever thread comes first, always with the same number.
 #pragma once
 
 #include <atomic>
-#include <iosfwd>
 #include <vector>
 
 #include "velcoredata/core/Export.h"
