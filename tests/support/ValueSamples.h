@@ -157,7 +157,8 @@ public:
         case DataType::String: return DataValue(m_collation, Text());
         case DataType::Tuple: return AnyTuple(depth);
         case DataType::Binary: return m_binaries[Below(2)];
-        case DataType::Spatial: return DataValue(MakeSpatial(small, static_cast<std::uint64_t>(small + 1) / 2 + 7));
+        case DataType::Spatial:
+            return DataValue(MakeSpatial(100 + small, static_cast<std::uint64_t>(small + 1) / 2 + 7));
         default: return DataValue(SpecialOf(static_cast<int>(Below(kSpecials))), type);
         }
     }
