@@ -1,26 +1,10 @@
 #include "typedtable/Aggregate.h"
 
 #include <cmath>
-#include <limits>
 
 #include "typedtable/UserError.h"
 
 namespace typedtable {
-
-namespace {
-
-// Both of the same type, not null. Integer, Real, Date or DateTime.
-bool IsLess(DataValue const & a, DataValue const & b)
-{
-    switch (a.GetDataType()) {
-    case DataType::Integer: return a.GetInt() < b.GetInt();
-    case DataType::Real: return a.GetReal() < b.GetReal();
-    case DataType::Date: return a.GetDate() < b.GetDate();
-    default: return a.GetDatetime() < b.GetDatetime();
-    }
-}
-
-}  // namespace
 
 char const * NameOf(AggregateKind kind) noexcept
 {
@@ -36,14 +20,7 @@ char const * NameOf(AggregateKind kind) noexcept
 
 bool CanAggregate(AggregateKind kind, DataType type) noexcept
 {
-    switch (kind) {
-    case AggregateKind::Count: return true;
-    case AggregateKind::Sum:
-    case AggregateKind::Mean: return IsNumeric(type);
-    case AggregateKind::Min:
-    case AggregateKind::Max: return IsQuantitative(type);
-    }
-    return false;
+    return (kind != AggregateKind::Sum && kind != AggregateKind::Mean) || IsNumeric(type);
 }
 
 DataType ResultType(AggregateKind kind, DataType type) noexcept
@@ -53,47 +30,70 @@ DataType ResultType(AggregateKind kind, DataType type) noexcept
     return kind == AggregateKind::Mean ? DataType::Real : type;
 }
 
+Aggregate::Aggregate(AggregateKind kind, DataType type, Nulls nulls) : m_kind(kind), m_type(type), m_nulls(nulls)
+{
+    m_operators.SetSQLNullSemantics(nulls == Nulls::Spread);
+    if (kind == AggregateKind::Sum || kind == AggregateKind::Mean)
+        m_total = type == DataType::Integer ? DataValue(0) : DataValue(0.0);
+}
+
 void Aggregate::Add(DataValue const & value)
 {
-    if (m_kind == AggregateKind::Count) {
-        ++m_count;
-        return;
-    }
-    if (value.IsNull())
+    if (m_kind != AggregateKind::Count && m_nulls == Nulls::Skip && value.IsNull())
         return;
     ++m_count;
-    if (m_kind == AggregateKind::Min || m_kind == AggregateKind::Max) {
-        bool const isMin = m_kind == AggregateKind::Min;
-        if (m_count == 1 || (isMin ? IsLess(value, m_extreme) : IsLess(m_extreme, value)))
-            m_extreme = value;
-    } else if (m_type == DataType::Integer) {
-        m_integerSum += value.GetInt();
-    } else {
-        double const number = value.GetReal();
-        double const sum = m_realSum + number;
-        m_lostSum += std::abs(m_realSum) >= std::abs(number) ? (m_realSum - sum) + number : (number - sum) + m_realSum;
-        m_realSum = sum;
+    switch (m_kind) {
+    case AggregateKind::Count: break;
+    // Of equal values the operators give the right one: the first that came.
+    case AggregateKind::Min: m_total = m_count == 1 ? value : m_operators.Min(value, m_total); break;
+    case AggregateKind::Max: m_total = m_count == 1 ? value : m_operators.Max(value, m_total); break;
+    case AggregateKind::Sum:
+    case AggregateKind::Mean: m_type == DataType::Integer ? AddInteger(value) : AddReal(value);
     }
+}
+
+// The operators wrap in 64 bits; with the wraps counted, the sum is exact.
+void Aggregate::AddInteger(DataValue const & number)
+{
+    DataValue const sum = m_operators.Add(m_total, number);
+    if (!sum.IsNull() && number.GetInt() > 0 && sum.GetInt() < m_total.GetInt())
+        ++m_wraps;
+    if (!sum.IsNull() && number.GetInt() < 0 && sum.GetInt() > m_total.GetInt())
+        --m_wraps;
+    m_total = sum;
+}
+
+void Aggregate::AddReal(DataValue const & number)
+{
+    DataValue const sum = m_operators.Add(m_total, number);
+    bool const totalIsLarger = std::abs(m_total.GetReal()) >= std::abs(number.GetReal());
+    DataValue const & larger = totalIsLarger ? m_total : number;
+    DataValue const & smaller = totalIsLarger ? number : m_total;
+    m_lost = m_operators.Add(m_lost, m_operators.Add(m_operators.Subtract(larger, sum), smaller));
+    m_total = sum;
 }
 
 DataValue Aggregate::GetResult() const
 {
     if (m_kind == AggregateKind::Count)
         return DataValue(m_count);
-    if (m_count == 0)
+    if (m_count == 0 || m_total.IsNull())
         return DataValue(DataValueTypes::Null, ResultType(m_kind, m_type));
     if (m_kind == AggregateKind::Min || m_kind == AggregateKind::Max)
-        return m_extreme;
+        return m_total;
     if (m_type == DataType::Integer && m_kind == AggregateKind::Sum) {
-        if (m_integerSum < std::numeric_limits<long long>::min() ||
-            m_integerSum > std::numeric_limits<long long>::max())
+        if (m_wraps != 0)
             throw TableError("a sum of integers is beyond 64 bits");
-        return DataValue(static_cast<long long>(m_integerSum));
+        return m_total;
     }
-    // An infinite sum leaves no rounding error worth having.
-    double const realSum = std::isfinite(m_realSum) ? m_realSum + m_lostSum : m_realSum;
-    double const sum = m_type == DataType::Integer ? static_cast<double>(m_integerSum) : realSum;
-    return DataValue(m_kind == AggregateKind::Sum ? sum : sum / static_cast<double>(m_count));
+    DataValueOperators operators;
+    DataValue sum = m_total;
+    if (m_type == DataType::Integer)
+        sum = DataValue(
+            static_cast<double>(static_cast<__int128>(m_wraps) * (static_cast<__int128>(1) << 64) + m_total.GetInt()));
+    else if (std::isfinite(m_total.GetReal()))  // an infinite sum leaves no rounding error worth having
+        sum = operators.Add(m_total, m_lost);
+    return m_kind == AggregateKind::Sum ? sum : operators.Divide(sum, DataValue(m_count));
 }
 
 }  // namespace typedtable

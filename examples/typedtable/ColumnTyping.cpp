@@ -218,7 +218,7 @@ bool CanRead(std::string_view cell, DataType type)
 
 }  // namespace
 
-std::optional<DataValue> ReadCell(std::string_view cell, DataType type)
+std::optional<DataValue> ReadCell(std::string_view cell, DataType type, Collation const & collation)
 {
     std::string_view const text = WithoutBlanks(cell);
     if (text.empty())
@@ -229,7 +229,7 @@ std::optional<DataValue> ReadCell(std::string_view cell, DataType type)
     case DataType::Boolean: return ReadBoolean(text);
     case DataType::Date:
     case DataType::DateTime: return ReadDate(text, type);
-    default: return DataValue::FromString(TString::fromUtf8(cell.data(), static_cast<int>(cell.size())));
+    default: return DataValue(collation, TString::fromUtf8(cell.data(), static_cast<int>(cell.size())));
     }
 }
 

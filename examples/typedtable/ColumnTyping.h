@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "velcoredata/data/Collation.h"
 #include "velcoredata/data/DataType.h"
 #include "velcoredata/data/DataValue.h"
 
@@ -20,10 +21,11 @@ namespace typedtable {
 ///   Date      yyyy-MM-dd: a day of the years 0400 to 9999
 ///   DateTime  yyyy-MM-dd, a T or a blank, HH:mm, then perhaps :ss, then perhaps a point and 1 to 9 digits, rounded to
 ///             1/10000 second; and every Date as its midnight. No time zone. Up to 9999-12-31 23:59:59.0000
-///   String    every cell, with its blanks
+///   String    every cell, with its blanks, under the collation
 ///
 /// Only these types are asked for.
-std::optional<DataValue> ReadCell(std::string_view cell, DataType type);
+std::optional<DataValue> ReadCell(std::string_view cell, DataType type,
+                                  Collation const & collation = GetUnknownCollation());
 
 /// Gathers the type of one column. Every cell that is not null narrows it: cells of one type give this type, integers
 /// with reals give Real, dates with date-times give DateTime, everything else String. So does a column of nulls alone.

@@ -30,29 +30,19 @@ DataValue FormattedText(char const * format, Numbers... numbers)
 
 }  // namespace
 
-GroupBy::GroupBy(GroupByRequest const & request, Schema const & schema)
-    : m_request(request), m_schema(schema), m_dateColumn(schema.Find(request.column))
+GroupBy::GroupBy(GroupByRequest const & request, Schema const & schema, Nulls nulls)
+    : m_request(request), m_dateColumn(schema.Find(request.column)), m_items(request.items, schema, nulls)
 {
     DataType const dateType = schema.columns[m_dateColumn].type;
     if (!IsTemporal(dateType))
         throw TableError("--group-by: column \"" + request.column + "\" is " + TypeName(dateType) +
                          ", not DATE or DATETIME");
-    for (auto const & item : request.items) {
-        std::size_t const column = item.kind == AggregateKind::Count ? m_dateColumn : schema.Find(item.column);
-        DataType const type = schema.columns[column].type;
-        if (!CanAggregate(item.kind, type))
-            throw TableError(std::string("--") + NameOf(item.kind) + ": column \"" + item.column + "\" is " +
-                             TypeName(type) +
-                             (CanAggregate(item.kind, DataType::Date) ? ", not a number or a date" : ", not a number"));
-        m_items.push_back({item.kind, column, type});
-    }
 }
 
 std::vector<std::size_t> GroupBy::GetColumns() const
 {
     std::vector<std::size_t> columns{m_dateColumn};
-    for (Item const & item : m_items)
-        columns.push_back(item.column);
+    m_items.AppendIndices(columns);
     return columns;
 }
 
@@ -63,11 +53,9 @@ void GroupBy::Add(TypedReader const & row)
     Group & group = place->second;
     if (isNew) {
         group.start = start;
-        for (Item const & item : m_items)
-            group.aggregates.emplace_back(item.kind, item.type);
+        group.aggregates = m_items.Start();
     }
-    for (std::size_t i = 0; i < m_items.size(); ++i)
-        group.aggregates[i].Add(row.GetValue(m_items[i].column));
+    m_items.Add(group.aggregates, row);
 }
 
 DataValue GroupBy::StartOf(DataValue const & date, long long line) const
@@ -123,23 +111,24 @@ Table GroupBy::GetResult() const
     table.columns.push_back({m_request.column + ":" + m_request.periodName, DataType::Date});
     if (hasNames)
         table.columns.push_back({m_request.periodName, DataType::String});
-    for (Item const & item : m_items) {
-        std::string name = NameOf(item.kind);
-        if (item.kind != AggregateKind::Count)
-            name += "(" + m_schema.columns[item.column].name + ")";
-        table.columns.push_back({std::move(name), ResultType(item.kind, item.type)});
-    }
+    m_items.AppendTitles(table);
     for (auto const & [key, group] : m_groups) {
         std::vector<DataValue> row{group.start};
         if (hasNames)
             row.push_back(NameOfPeriod(group.start));
-        for (Aggregate const & aggregate : group.aggregates)
-            row.push_back(aggregate.GetResult());
+        AggregateColumns::AppendResults(group.aggregates, row);
         table.rows.push_back(std::move(row));
     }
     return table;
 }
 
+void GroupBy::Print(std::ostream & out)
+{
+    PrintTable(out, GetResult());
+    PrintSpan(out);
+}
+
+// "16 periods from 2012-01-01 to 2015-10-01, 2 of them without rows". Says nothing if no row has a date.
 void GroupBy::PrintSpan(std::ostream & out) const
 {
     auto first = m_groups.begin();

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "typedtable/Aggregate.h"
+#include "typedtable/AggregateColumns.h"
+#include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
 #include "typedtable/TypedReader.h"
@@ -20,46 +21,32 @@ namespace typedtable {
 /// What the user asked for.
 struct GroupByRequest
 {
-    struct Item
-    {
-        AggregateKind kind;
-        std::string column;  // empty for a count
-    };
-
     std::string column;
     std::string periodName;  // "quarter", as the option has it
     DatePeriodType period = DatePeriodType::Year;
     std::shared_ptr<IDateOptions const> options;  // the calendar that the period is counted in
-    std::vector<Item> items;
+    std::vector<AggregateItem> items;
 };
 
 /// Adds rows to the group of the period that holds their date. Memory grows with the number of periods, not of rows.
-class GroupBy
+class GroupBy : public RowSink
 {
 public:
-    /// Throws UserError if a column is missing or of a type that the request cannot be met for.
-    GroupBy(GroupByRequest const & request, Schema const & schema);
+    /// Throws TableError if a column is missing or of a type that the request cannot be met for. Request and schema
+    /// outlive the object.
+    GroupBy(GroupByRequest const & request, Schema const & schema, Nulls nulls);
 
-    /// Indices of the columns that a row needs.
-    std::vector<std::size_t> GetColumns() const;
+    std::vector<std::size_t> GetColumns() const override;
+    char const * GetDoing() const override { return "grouped"; }
 
     /// Throws TableError if the period begins before the year 400.
-    void Add(TypedReader const & row);
+    void Add(TypedReader const & row) override;
 
     /// One row a group, by rising date: the first day of the period, its name where the calendar has one, the
-    /// aggregates. Rows without a date make the first group. Throws TableError as Aggregate::GetResult does.
-    Table GetResult() const;
-
-    /// "16 periods from 2012-01-01 to 2015-10-01, 2 of them without rows". Says nothing if no row has a date.
-    void PrintSpan(std::ostream & out) const;
+    /// aggregates. Rows without a date make the first group. Below them the span.
+    void Print(std::ostream & out) override;
 
 private:
-    struct Item
-    {
-        AggregateKind kind;
-        std::size_t column;
-        DataType type;
-    };
     struct Group
     {
         DataValue start;  // Date
@@ -69,11 +56,12 @@ private:
     DataValue StartOf(DataValue const & date, long long line) const;
     bool HasNames() const;
     DataValue NameOfPeriod(DataValue const & start) const;
+    Table GetResult() const;
+    void PrintSpan(std::ostream & out) const;
 
     GroupByRequest const & m_request;
-    Schema const & m_schema;
     std::size_t m_dateColumn;
-    std::vector<Item> m_items;
+    AggregateColumns m_items;
     std::map<long long, Group> m_groups;  // by the payload of the start, which rises with it and is 0 for a null
 };
 

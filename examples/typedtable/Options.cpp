@@ -3,62 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <memory>
 #include <string_view>
 #include <utility>
 
+#include "typedtable/GroupByOptions.h"
 #include "typedtable/UserError.h"
-#include "velcoredata/data/GregorianDateOptions.h"
-#include "velcoredata/data/ISO8601DateOptions.h"
 
 namespace typedtable {
 
-char const * const kUsage =
-    R"(usage: typedtable FILE [--rows N]
-       typedtable FILE --group-by COLUMN:PERIOD [--sum|--mean|--min|--max COLUMN]... [--count]
-
-Reads a CSV file (UTF-8, with a header), types its columns, and prints the columns with their types and counts of nulls,
-and the first rows. FILE may be - for standard input.
-
-  --rows N             how many of the first rows to print, 0 to 1000000 (5)
-  --group-by COL:PER   gather the rows by a period of a date column instead. Periods:
-                         year, quarter, month, week, day, iso-year, iso-quarter, iso-week
-  --fiscal-start N     the month, 1 to 12, with which years and quarters begin (1)
-  --week-start N       the day, 1 = Sunday to 7 = Saturday, with which a week begins (1), or an iso-week (2)
-  --sum COLUMN         the sum of a column in each group; likewise --mean, --min and --max. May be given again
-  --count              the rows of each group; the default if nothing else is asked for
-  --help               print this text
-
-Exit code: 0, or 2 with one line on standard error if the file or the options are bad.
-)";
-
 namespace {
-
-struct PeriodName
-{
-    std::string_view name;
-    DatePeriodType period;
-};
-
-constexpr std::array kPeriods = {
-    PeriodName{"year", DatePeriodType::Year},
-    PeriodName{"quarter", DatePeriodType::Quarter},
-    PeriodName{"month", DatePeriodType::Month},
-    PeriodName{"week", DatePeriodType::Week},
-    PeriodName{"day", DatePeriodType::Day},
-    PeriodName{"iso-year", DatePeriodType::ISOYear},
-    PeriodName{"iso-quarter", DatePeriodType::ISOQuarter},
-    PeriodName{"iso-week", DatePeriodType::ISOWeek},
-};
 
 constexpr std::array kColumnAggregates = {AggregateKind::Sum, AggregateKind::Mean, AggregateKind::Min,
                                           AggregateKind::Max};
-
-bool IsIso(DatePeriodType period) noexcept
-{
-    return period == DatePeriodType::ISOYear || period == DatePeriodType::ISOQuarter ||
-           period == DatePeriodType::ISOWeek;
-}
 
 int ReadNumber(std::string const & option, std::string const & text, int least, int most)
 {
@@ -69,6 +25,11 @@ int ReadNumber(std::string const & option, std::string const & text, int least, 
         throw UserError(option + ": \"" + text + "\" is not a number from " + std::to_string(least) + " to " +
                         std::to_string(most));
     return number;
+}
+
+std::string OptionOf(AggregateKind kind)
+{
+    return std::string("--") + NameOf(kind);
 }
 
 // Walks the arguments and keeps what stands there; what it means together is for Finish.
@@ -93,6 +54,9 @@ public:
     }
 
 private:
+    using Text = std::optional<std::string> Arguments::*;
+    using Flag = bool Arguments::*;
+
     void SetFile(std::string const & path)
     {
         if (path.empty())
@@ -104,30 +68,84 @@ private:
 
     void ReadOption(std::string const & argument)
     {
+        ++m_options;
         std::size_t const equals = argument.find('=');
         std::string const name = argument.substr(0, equals);
         if (equals != std::string::npos)
             m_attached = argument.substr(equals + 1);
-        if (name == "--rows") {
-            SetOnce(m_rows, name, ReadNumber(name, TakeValue(name), 0, 1000000));
-        } else if (name == "--fiscal-start") {
-            SetOnce(m_fiscalStart, name, ReadNumber(name, TakeValue(name), 1, 12));
-        } else if (name == "--week-start") {
-            SetOnce(m_weekStart, name, ReadNumber(name, TakeValue(name), 1, 7));
-        } else if (name == "--group-by") {
-            SetOnce(m_groupBy, name, TakeValue(name));
-        } else if (name == "--count") {
-            m_items.push_back({AggregateKind::Count, {}});
-        } else {
-            auto const kind =
-                std::find_if(kColumnAggregates.begin(), kColumnAggregates.end(),
-                             [&](AggregateKind candidate) { return name == std::string("--") + NameOf(candidate); });
-            if (kind == kColumnAggregates.end())
-                throw UserError("unknown option \"" + name + "\"; typedtable --help lists them");
-            m_items.push_back({*kind, TakeValue(name)});
-        }
+        if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name))
+            throw UserError("unknown option \"" + name + "\"; typedtable --help lists them");
         if (m_attached)
             throw UserError(name + " takes no value");
+    }
+
+    bool ReadNumberOption(std::string const & name)
+    {
+        if (name == "--rows")
+            SetOnce(m_rows, name, ReadNumber(name, TakeValue(name), 0, 1000000));
+        else if (name == "--fiscal-start")
+            SetOnce(m_fiscalStart, name, ReadNumber(name, TakeValue(name), 1, 12));
+        else if (name == "--week-start")
+            SetOnce(m_weekStart, name, ReadNumber(name, TakeValue(name), 1, 7));
+        else
+            return false;
+        return true;
+    }
+
+    bool ReadTextOption(std::string const & name)
+    {
+        static constexpr std::array<std::pair<std::string_view, Text>, 8> kTexts = {{
+            {"--group-by", &Arguments::m_groupBy},
+            {"--distinct", &Arguments::m_distinct},
+            {"--sort", &Arguments::m_sort},
+            {"--where", &Arguments::m_where},
+            {"--find", &Arguments::m_find},
+            {"--collation", &Arguments::m_collation},
+            {"--locale", &Arguments::m_locale},
+            {"--explain-collation", &Arguments::m_explain},
+        }};
+        for (auto const & [option, place] : kTexts) {
+            if (name != option)
+                continue;
+            std::string value = TakeValue(name);
+            if (value.empty())
+                throw UserError(name + ": the value is empty");
+            SetOnce(this->*place, name, std::move(value));
+            return true;
+        }
+        return false;
+    }
+
+    bool ReadFlag(std::string const & name)
+    {
+        static constexpr std::array<std::pair<std::string_view, Flag>, 4> kFlags = {{
+            {"--ignore-case", &Arguments::m_ignoreCase},
+            {"--ignore-accents", &Arguments::m_ignoreAccents},
+            {"--word-sort", &Arguments::m_wordSort},
+            {"--sql-nulls", &Arguments::m_sqlNulls},
+        }};
+        for (auto const & [option, place] : kFlags) {
+            if (name != option)
+                continue;
+            if (std::exchange(this->*place, true))
+                throw UserError(name + " is given twice");
+            return true;
+        }
+        return false;
+    }
+
+    bool ReadAggregate(std::string const & name)
+    {
+        if (name == OptionOf(AggregateKind::Count)) {
+            m_items.push_back({AggregateKind::Count, {}});
+            return true;
+        }
+        auto const kind = std::find_if(kColumnAggregates.begin(), kColumnAggregates.end(),
+                                       [&](AggregateKind candidate) { return name == OptionOf(candidate); });
+        if (kind == kColumnAggregates.end())
+            return false;
+        m_items.push_back({*kind, TakeValue(name)});
+        return true;
     }
 
     // The text behind "=", else the next argument.
@@ -148,82 +166,119 @@ private:
         place = std::move(value);
     }
 
+    // Throws if both options are there.
+    static void Exclude(bool first, bool second, std::string const & refusal)
+    {
+        if (first && second)
+            throw UserError(refusal + ": give one of them");
+    }
+
     Options Finish()
     {
-        if (!m_file)
-            throw UserError("no file is given; typedtable --help shows the usage");
         Options options;
-        options.file = *m_file;
-        if (m_groupBy) {
-            if (m_rows)
-                throw UserError("--rows shows rows and --group-by shows groups: give one of them");
-            options.groupBy = FinishGroupBy();
-            options.rows = 0;
+        if (m_explain) {
+            if (m_file || m_options > 1)
+                throw UserError("--explain-collation stands alone");
+            options.task = ExplainRequest{*m_explain};
             return options;
         }
-        if (m_rows)
-            options.rows = static_cast<std::size_t>(*m_rows);
-        if (!m_items.empty())
-            throw UserError(std::string("--") + NameOf(m_items.front().kind) + " needs --group-by");
-        if (m_fiscalStart)
-            throw UserError("--fiscal-start needs --group-by");
-        if (m_weekStart)
-            throw UserError("--week-start needs --group-by");
+        if (!m_file)
+            throw UserError("no file is given; typedtable --help shows the usage");
+        options.file = *m_file;
+        options.sqlNulls = m_sqlNulls;
+        if (m_where)
+            options.filter.where = ReadCondition(*m_where);
+        options.filter.find = m_find;
+        options.collation = FinishCollation();
+        if (m_sqlNulls && !m_where && !m_sort &&
+            !HasItem([](AggregateKind kind) { return kind != AggregateKind::Count; }))
+            throw UserError("--sql-nulls needs --where, --sort, --sum, --mean, --min or --max");
+        options.task = FinishTask();
         return options;
     }
 
-    GroupByRequest FinishGroupBy()
+    Options::Task FinishTask()
     {
-        GroupByRequest request;
-        // A column's name may hold a colon, a period's does not.
-        std::size_t const colon = m_groupBy->rfind(':');
-        if (colon == std::string::npos || colon == 0)
-            throw UserError("--group-by: \"" + *m_groupBy + "\" is not COLUMN:PERIOD");
-        request.column = m_groupBy->substr(0, colon);
-        request.periodName = m_groupBy->substr(colon + 1);
-        auto const period = std::find_if(kPeriods.begin(), kPeriods.end(), [&](PeriodName const & candidate) {
-            return candidate.name == request.periodName;
-        });
-        if (period == kPeriods.end())
-            throw UserError("--group-by: \"" + request.periodName + "\" is not a period: " + ListPeriods());
-        request.period = period->period;
-        request.options = MakeDateOptions(request);
-        request.items = std::move(m_items);
-        if (request.items.empty())
-            request.items.push_back({AggregateKind::Count, {}});
-        return request;
+        if (!m_groupBy && m_fiscalStart)
+            throw UserError("--fiscal-start needs --group-by");
+        if (!m_groupBy && m_weekStart)
+            throw UserError("--week-start needs --group-by");
+        Exclude(m_groupBy.has_value(), m_distinct.has_value(), "--group-by and --distinct both gather rows");
+        if (m_groupBy || m_distinct || !m_items.empty()) {
+            std::string const shown = m_groupBy    ? "--group-by shows groups"
+                                      : m_distinct ? "--distinct shows groups"
+                                                   : OptionOf(m_items.front().kind) + " shows one line";
+            Exclude(m_rows.has_value(), true, "--rows shows rows and " + shown);
+            Exclude(m_sort.has_value(), true, "--sort shows rows and " + shown);
+        }
+        if (m_groupBy)
+            return MakeGroupByRequest(*m_groupBy, m_fiscalStart, m_weekStart, std::move(m_items));
+        if (m_distinct) {
+            if (m_items.empty())
+                m_items.push_back({AggregateKind::Count, {}});
+            return DistinctRequest{*m_distinct, std::move(m_items)};
+        }
+        if (!m_items.empty())
+            return SummaryRequest{std::move(m_items)};
+        if (m_sort || m_where || m_find) {
+            ListingRequest request;
+            request.sort = m_sort;
+            if (m_rows)
+                request.rows = static_cast<std::size_t>(*m_rows);
+            return request;
+        }
+        return SchemaRequest{static_cast<std::size_t>(m_rows.value_or(5))};
     }
 
-    std::shared_ptr<IDateOptions const> MakeDateOptions(GroupByRequest const & request) const
+    CollationChoice FinishCollation() const
     {
-        DatePeriodType const period = request.period;
-        if (m_fiscalStart && period != DatePeriodType::Year && period != DatePeriodType::Quarter)
-            throw UserError("--fiscal-start moves years and quarters, not " + request.periodName + "s");
-        if (m_weekStart && period != DatePeriodType::Week && period != DatePeriodType::ISOWeek)
-            throw UserError("--week-start moves weeks, not " + request.periodName + "s");
-        if (IsIso(period) && !m_weekStart)
-            return std::make_shared<ISO8601DateOptions>();
-        return std::make_shared<GregorianDateOptions>(static_cast<SOWValue>(m_weekStart.value_or(SOW_SUNDAY)),
-                                                      static_cast<FYSValues>(m_fiscalStart.value_or(FYS_JANUARY)));
+        Exclude(m_collation.has_value(), m_locale.has_value(), "--collation and --locale both name a collation");
+        for (auto const & [given, option] :
+             {std::pair(m_ignoreCase, "--ignore-case"), std::pair(m_ignoreAccents, "--ignore-accents"),
+              std::pair(m_wordSort, "--word-sort")})
+        {
+            if (given && m_collation)
+                throw UserError(std::string(option) + " goes with --locale; the name behind --collation says it all");
+            if (given && !m_locale)
+                throw UserError(std::string(option) + " needs --locale");
+        }
+        bool const isUsed = m_sort || m_distinct || m_find || m_where || HasItem([](AggregateKind kind) {
+                                return kind == AggregateKind::Min || kind == AggregateKind::Max;
+                            });
+        if ((m_collation || m_locale) && !isUsed)
+            throw UserError(std::string(m_collation ? "--collation" : "--locale") +
+                            " needs --sort, --distinct, --find, --where, --min or --max");
+        return {m_collation, m_locale, m_ignoreCase, m_ignoreAccents, m_wordSort};
     }
 
-    static std::string ListPeriods()
+    template <class Predicate>
+    bool HasItem(Predicate predicate) const
     {
-        std::string list;
-        for (PeriodName const & period : kPeriods)
-            list.append(list.empty() ? "" : ", ").append(period.name);
-        return list;
+        return std::any_of(m_items.begin(), m_items.end(),
+                           [&](AggregateItem const & item) { return predicate(item.kind); });
     }
 
     std::vector<std::string> const & m_arguments;
     std::size_t m_next = 0;
+    int m_options = 0;
     std::optional<std::string> m_attached;  // value of the option at hand, written with "="
     std::optional<std::string> m_file;
     std::optional<int> m_rows;
     std::optional<int> m_fiscalStart;
     std::optional<int> m_weekStart;
     std::optional<std::string> m_groupBy;
-    std::vector<GroupByRequest::Item> m_items;
+    std::optional<std::string> m_distinct;
+    std::optional<std::string> m_sort;
+    std::optional<std::string> m_where;
+    std::optional<std::string> m_find;
+    std::optional<std::string> m_collation;
+    std::optional<std::string> m_locale;
+    std::optional<std::string> m_explain;
+    bool m_ignoreCase = false;
+    bool m_ignoreAccents = false;
+    bool m_wordSort = false;
+    bool m_sqlNulls = false;
+    std::vector<AggregateItem> m_items;
 };
 
 }  // namespace
@@ -233,7 +288,7 @@ Options ReadOptions(std::vector<std::string> const & arguments)
     auto const end = std::find(arguments.begin(), arguments.end(), "--");
     if (std::find(arguments.begin(), end, "--help") != end) {
         Options options;
-        options.help = true;
+        options.task = HelpRequest{};
         return options;
     }
     return Arguments(arguments).Read();

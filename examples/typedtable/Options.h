@@ -2,25 +2,49 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "typedtable/CollationChoice.h"
+#include "typedtable/Distinct.h"
 #include "typedtable/GroupBy.h"
+#include "typedtable/Listing.h"
+#include "typedtable/RowFilter.h"
+#include "typedtable/Summary.h"
 
 namespace typedtable {
 
+struct HelpRequest
+{};
+
+struct ExplainRequest
+{
+    std::string collation;  // a collator name
+};
+
+/// The columns and the first rows.
+struct SchemaRequest
+{
+    std::size_t rows;
+};
+
 struct Options
 {
-    bool help = false;  // then nothing else is set
-    std::string file;   // "-" is standard input
-    std::size_t rows = 5;
-    std::optional<GroupByRequest> groupBy;
+    /// What the program does. The last four read the rows a second time.
+    using Task = std::variant<HelpRequest, ExplainRequest, SchemaRequest, ListingRequest, SummaryRequest,
+                              DistinctRequest, GroupByRequest>;
+
+    Task task;
+    std::string file;  // "-" is standard input; empty for the first two tasks
+    FilterRequest filter;
+    CollationChoice collation;
+    bool sqlNulls = false;
 };
 
 /// Reads the arguments behind the program's name; "--help" among them wins over everything else. Throws UserError for
-/// an unknown option, a missing or bad value, an option given twice, options that contradict each other, and for none
-/// or more than one file.
+/// an unknown option, a missing or bad value, an option given twice, options that contradict each other or do
+/// nothing, and for none or more than one file.
 Options ReadOptions(std::vector<std::string> const & arguments);
 
 /// The text of --help.

@@ -79,6 +79,11 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows)
     return schema;
 }
 
+std::string CountOfRows(long long part, long long whole)
+{
+    return (part == whole ? "" : std::to_string(part) + " of ") + Counted(whole, "row");
+}
+
 void PrintSchema(std::ostream & out, std::string const & fileName, Schema const & schema)
 {
     out << OnOneLine(fileName) << ": " << Counted(schema.rows, "row") << ", "

@@ -34,6 +34,9 @@ struct Schema
 /// and for a file without a header.
 Schema ReadSchema(ByteSource & source, std::size_t firstRows);
 
+/// "2922 rows"; "12 of 2922 rows" if the part is smaller than the whole.
+std::string CountOfRows(long long part, long long whole);
+
 /// The number of rows and columns, the columns with their types and counts of nulls, and the first rows if there are
 /// any.
 void PrintSchema(std::ostream & out, std::string const & fileName, Schema const & schema);

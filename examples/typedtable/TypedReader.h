@@ -7,6 +7,7 @@
 #include "typedtable/ByteSource.h"
 #include "typedtable/CsvReader.h"
 #include "typedtable/Schema.h"
+#include "velcoredata/data/Collation.h"
 
 namespace typedtable {
 
@@ -14,9 +15,10 @@ namespace typedtable {
 class TypedReader
 {
 public:
-    /// Reads only the columns of these indices. The source stands at its first byte; source and schema outlive the
-    /// reader.
-    TypedReader(ByteSource & source, Schema const & schema, std::vector<std::size_t> const & columns);
+    /// Reads only the columns of these indices. Texts get the collation. The source stands at its first byte; source
+    /// and schema outlive the reader.
+    TypedReader(ByteSource & source, Schema const & schema, std::vector<std::size_t> columns,
+                Collation const & collation = GetUnknownCollation());
 
     /// Reads the next row; false at the end. Throws TableError for what CsvReader refuses, and for a cell that is not
     /// of its column's type, or a row of another width: then the file changed since its first reading.
@@ -32,6 +34,7 @@ private:
     CsvReader m_reader;
     Schema const & m_schema;
     std::vector<std::size_t> m_columns;
+    Collation m_collation;
     std::vector<DataValue> m_values;
 };
 

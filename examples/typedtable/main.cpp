@@ -1,19 +1,20 @@
-// typedtable: types the columns of a CSV file and groups its rows by a period of the calendar. See README.md.
+// typedtable: types the columns of a CSV file, and sorts, filters and sums up its rows. See README.md.
 
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <string>
+#include <variant>
 #include <vector>
 
-#include "typedtable/GroupBy.h"
 #include "typedtable/InputFile.h"
 #include "typedtable/Options.h"
 #include "typedtable/Progress.h"
 #include "typedtable/Schema.h"
-#include "typedtable/Table.h"
 #include "typedtable/TypedReader.h"
 #include "typedtable/UserError.h"
 #include "typedtable/ValueText.h"
+#include "velcoreplatform/TLog.h"
 #include "velcoreplatform/TString.h"
 #include "velsys/VeltriaException.h"
 
@@ -22,39 +23,70 @@ namespace {
 
 constexpr int kBadInput = 2;
 
-void PrintGroups(std::ostream & out, GroupByRequest const & request, Schema const & schema, InputFile & file)
+// What the library would log, the user is told in one line.
+class Silence : public TLog::Logger
 {
-    GroupBy groupBy(request, schema);
+public:
+    bool IsEnabled(TLog::AnySeverity const &) override { return false; }
+    void Log(TLog::Event const &, TLog::AnySeverity const &) override {}
+};
+
+std::unique_ptr<RowSink> MakeSink(Options const & options, Schema const & schema)
+{
+    Nulls const nulls = options.sqlNulls ? Nulls::Spread : Nulls::Skip;
+    if (auto const * const listing = std::get_if<ListingRequest>(&options.task))
+        return std::make_unique<Listing>(*listing, schema, options.sqlNulls);
+    if (auto const * const summary = std::get_if<SummaryRequest>(&options.task))
+        return std::make_unique<Summary>(*summary, schema, nulls);
+    if (auto const * const distinct = std::get_if<DistinctRequest>(&options.task))
+        return std::make_unique<Distinct>(*distinct, schema, nulls);
+    return std::make_unique<GroupBy>(std::get<GroupByRequest>(options.task), schema, nulls);
+}
+
+void PrintRows(std::ostream & out, Options const & options, Collation const & collation, InputFile & file)
+{
+    Schema const schema = ReadSchema(file, 0);
+    auto const sink = MakeSink(options, schema);
+    RowFilter const filter(options.filter, schema, collation, options.sqlNulls);
+    std::vector<std::size_t> columns = sink->GetColumns();
+    filter.AppendIndices(columns);
     file.Rewind();
     {
-        TypedReader reader(file, schema, groupBy.GetColumns());
-        Progress progress("grouped");
+        TypedReader reader(file, schema, columns, collation);
+        Progress progress(sink->GetDoing());
         while (reader.Next()) {
-            groupBy.Add(reader);
+            if (filter.Matches(reader))
+                sink->Add(reader);
             progress.CountRow();
         }
     }
-    PrintTable(out, groupBy.GetResult());
-    groupBy.PrintSpan(out);
+    sink->Print(out);
+}
+
+void PrintFile(std::ostream & out, Options const & options)
+{
+    Collation const collation = MakeCollation(options.collation);
+    auto const * const schema = std::get_if<SchemaRequest>(&options.task);
+    InputFile file(options.file, schema ? InputFile::Readings::Once : InputFile::Readings::Twice);
+    try {
+        if (schema)
+            PrintSchema(out, file.GetName(), ReadSchema(file, schema->rows));
+        else
+            PrintRows(out, options, collation, file);
+    } catch (TableError const & error) {
+        throw UserError(file.GetName() + ": " + error.what());
+    }
 }
 
 void Run(std::vector<std::string> const & arguments)
 {
     Options const options = ReadOptions(arguments);
-    if (options.help) {
+    if (std::holds_alternative<HelpRequest>(options.task))
         std::cout << kUsage;
-    } else {
-        InputFile file(options.file, options.groupBy ? InputFile::Readings::Twice : InputFile::Readings::Once);
-        try {
-            Schema const schema = ReadSchema(file, options.rows);
-            if (options.groupBy)
-                PrintGroups(std::cout, *options.groupBy, schema, file);
-            else
-                PrintSchema(std::cout, file.GetName(), schema);
-        } catch (TableError const & error) {
-            throw UserError(file.GetName() + ": " + error.what());
-        }
-    }
+    else if (auto const * const explain = std::get_if<ExplainRequest>(&options.task))
+        ExplainCollation(std::cout, explain->collation);
+    else
+        PrintFile(std::cout, options);
     if (!std::cout.flush())
         throw UserError("standard output cannot be written");
 }
@@ -67,6 +99,8 @@ int Fail(std::string const & message)
 
 int Main(int argc, char ** argv)
 {
+    static Silence silence;
+    TLog::Logger::Replace(&silence);
     try {
         Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
         return 0;

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "typedtable/UserError.h"
+#include "velcoredata/data/Collation.h"
 
 namespace typedtable {
 namespace {
@@ -96,15 +97,54 @@ TEST(Aggregate, OfNothingButNullsIsANullOfItsType)
     }
 }
 
-TEST(CanAggregate, SumsNumbersAndOrdersDatesToo)
+TEST(Aggregate, FindsExtremesOfBooleansAndOfTextsUnderTheirCollation)
+{
+    EXPECT_FALSE(Result(Min, DataType::Boolean, {true, false}).GetBool());
+    EXPECT_TRUE(Result(Max, DataType::Boolean, {true, false}).GetBool());
+    Collation const english(u"LEN_RUS_S2", 0);
+    auto const text = [](Collation const & collation, char16_t const * word) { return DataValue(collation, word); };
+    EXPECT_EQ(Result(Min, DataType::String, {text(english, u"Zebra"), text(english, u"apple")}).GetString(), u"apple");
+    Collation const & binary = GetBinaryCollation();
+    EXPECT_EQ(Result(Min, DataType::String, {text(binary, u"Zebra"), text(binary, u"apple")}).GetString(), u"Zebra");
+}
+
+TEST(Aggregate, TakesTheFirstOfEqualExtremes)
+{
+    Collation const english(u"LEN_RUS_S2", 0);
+    DataValue const upper(english, u"A");
+    DataValue const lower(english, u"a");
+    EXPECT_EQ(Result(Min, DataType::String, {upper, lower}).GetString(), u"A");
+    EXPECT_EQ(Result(Max, DataType::String, {lower, upper}).GetString(), u"a");
+}
+
+TEST(Aggregate, SpreadsNullsThroughEverythingButACount)
+{
+    for (DataType const type : {DataType::Integer, DataType::Real}) {
+        DataValue const number = type == DataType::Integer ? DataValue(1) : DataValue(0.5);
+        for (AggregateKind const kind : {Count, Sum, Mean, Min, Max}) {
+            for (int const place : {0, 1, 2}) {
+                Aggregate aggregate(kind, type, Nulls::Spread);
+                for (int i = 0; i < 3; ++i)
+                    aggregate.Add(i == place ? NullOf(type) : number);
+                DataValue const result = aggregate.GetResult();
+                EXPECT_EQ(result.IsNull(), kind != Count) << NameOf(kind) << ' ' << place;
+                EXPECT_EQ(result.GetDataType(), ResultType(kind, type)) << NameOf(kind);
+            }
+            Aggregate aggregate(kind, type, Nulls::Spread);
+            aggregate.Add(number);
+            EXPECT_FALSE(aggregate.GetResult().IsNull()) << NameOf(kind);
+        }
+    }
+}
+
+TEST(CanAggregate, SumsNumbersAndOrdersEverything)
 {
     using enum DataType;
     for (DataType const type : {Integer, Real, Boolean, Date, DataType::DateTime, String}) {
-        EXPECT_TRUE(CanAggregate(Count, type));
         EXPECT_EQ(CanAggregate(Sum, type), type == Integer || type == Real);
         EXPECT_EQ(CanAggregate(Mean, type), type == Integer || type == Real);
-        EXPECT_EQ(CanAggregate(Min, type), type != Boolean && type != String);
-        EXPECT_EQ(CanAggregate(Max, type), type != Boolean && type != String);
+        for (AggregateKind const kind : {Count, Min, Max})
+            EXPECT_TRUE(CanAggregate(kind, type));
     }
 }
 

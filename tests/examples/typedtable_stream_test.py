@@ -45,6 +45,19 @@ class Stream(unittest.TestCase):
         if KIND == "plain":
             self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, MOST_MEMORY_KIB)
 
+    def test_sorts_and_filters_in_bounded_memory_where_few_rows_are_shown(self):
+        for arguments, first, last in (
+                (["--sort", "name", "--collation", "LEN_RUS_S2", "--rows", "2"], "0", "1000000 rows, the first 2 shown"),
+                (["--where", "n >= 999998"], "999998", "2 of 1000000 rows"),
+                (["--find", "ROW 77777", "--locale", "en_US", "--ignore-case", "--rows", "2"], "77777",
+                 "11 of 1000000 rows, the first 2 shown")):
+            result = subprocess.run([PROGRAM, self.file.name, *arguments], capture_output=True, timeout=300)
+            self.assertEqual((result.returncode, result.stderr), (0, b""))
+            lines = result.stdout.decode().splitlines()
+            self.assertEqual((len(lines), lines[1].split()[1], lines[-1]), (4, first, last))
+            if KIND == "plain":
+                self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, MOST_MEMORY_KIB)
+
     def test_shows_progress_on_a_terminal_and_wipes_it(self):
         ours, theirs = pty.openpty()
         process = subprocess.Popen([PROGRAM, self.file.name, "--group-by", "when:year"], stdout=subprocess.PIPE,

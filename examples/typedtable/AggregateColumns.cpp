@@ -1,0 +1,60 @@
+#include "typedtable/AggregateColumns.h"
+
+#include "typedtable/UserError.h"
+#include "velcoreplatform/TString.h"
+
+namespace typedtable {
+
+AggregateColumns::AggregateColumns(std::vector<AggregateItem> const & items, Schema const & schema, Nulls nulls)
+    : m_nulls(nulls)
+{
+    for (AggregateItem const & item : items) {
+        std::string const name = NameOf(item.kind);
+        if (item.kind == AggregateKind::Count) {
+            m_items.push_back({item.kind, 0, DataType::Integer, name});
+            continue;
+        }
+        std::size_t const column = schema.Find(item.column);
+        DataType const type = schema.columns[column].type;
+        if (!CanAggregate(item.kind, type))
+            throw TableError("--" + name + ": column \"" + item.column + "\" is " +
+                             DataValue::DataTypeToString(type).toStdString() + ", not a number");
+        m_items.push_back({item.kind, column, type, name + "(" + item.column + ")"});
+    }
+}
+
+void AggregateColumns::AppendIndices(std::vector<std::size_t> & indices) const
+{
+    for (Item const & item : m_items) {
+        if (item.kind != AggregateKind::Count)
+            indices.push_back(item.column);
+    }
+}
+
+void AggregateColumns::AppendTitles(Table & table) const
+{
+    for (Item const & item : m_items)
+        table.columns.push_back({item.title, ResultType(item.kind, item.type)});
+}
+
+std::vector<Aggregate> AggregateColumns::Start() const
+{
+    std::vector<Aggregate> aggregates;
+    for (Item const & item : m_items)
+        aggregates.emplace_back(item.kind, item.type, m_nulls);
+    return aggregates;
+}
+
+void AggregateColumns::Add(std::vector<Aggregate> & aggregates, TypedReader const & row) const
+{
+    for (std::size_t i = 0; i < m_items.size(); ++i)
+        aggregates[i].Add(row.GetValue(m_items[i].column));
+}
+
+void AggregateColumns::AppendResults(std::vector<Aggregate> const & aggregates, std::vector<DataValue> & row)
+{
+    for (Aggregate const & aggregate : aggregates)
+        row.push_back(aggregate.GetResult());
+}
+
+}  // namespace typedtable

@@ -1,0 +1,50 @@
+// Listing: rows as they are, in an order.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "typedtable/RowSink.h"
+#include "typedtable/Schema.h"
+#include "typedtable/Table.h"
+#include "velcoredata/utility/DataValueOperators.h"
+
+namespace typedtable {
+
+struct ListingRequest
+{
+    std::optional<std::string> sort;  // a column; without it the order of the file
+    std::size_t rows = std::numeric_limits<std::size_t>::max();
+};
+
+/// Keeps the rows that it will print, since the widest cell sets the width of a column, and while it sorts about twice
+/// as many. Memory grows with their number: with that of all matching rows, if `rows` does not limit it.
+class Listing : public RowSink
+{
+public:
+    /// Throws TableError if the column is missing. The schema outlives the object.
+    Listing(ListingRequest const & request, Schema const & schema, bool sqlNulls);
+
+    std::vector<std::size_t> GetColumns() const override;
+    char const * GetDoing() const override { return "listed"; }
+    void Add(TypedReader const & row) override;
+
+    /// The rows by rising value of the sorted column as DataValueOperators::Compare has it, nulls first, equal ones in
+    /// the order of the file; then "12 of 2922 rows, the first 5 shown".
+    void Print(std::ostream & out) override;
+
+private:
+    void Sort();
+
+    Schema const & m_schema;
+    std::optional<std::size_t> m_sortColumn;
+    std::size_t m_most;
+    long long m_matching = 0;
+    Table m_table;
+    DataValueOperators m_operators;
+};
+
+}  // namespace typedtable

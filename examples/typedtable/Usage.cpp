@@ -1,0 +1,50 @@
+#include "typedtable/Options.h"
+
+namespace typedtable {
+
+char const * const kUsage =
+    R"(usage: typedtable FILE [--rows N]
+       typedtable FILE [--where CONDITION] [--find TEXT] [--sort COLUMN] [--rows N]
+       typedtable FILE --sum|--mean|--min|--max COLUMN... [--count]
+       typedtable FILE --distinct COLUMN [--sum|--mean|--min|--max COLUMN]... [--count]
+       typedtable FILE --group-by COLUMN:PERIOD [--sum|--mean|--min|--max COLUMN]... [--count]
+       typedtable --explain-collation NAME
+
+Reads a CSV file (UTF-8, with a header), types its columns, and prints the columns with their types and counts of nulls,
+and the first rows. With more options it prints rows, sums, or groups instead. FILE may be - for standard input.
+
+Rows
+  --rows N             how many rows to print, 0 to 1000000 (5 below the columns, else all)
+  --sort COLUMN        the rows by rising value, nulls first. Rows that are sorted are held in memory
+  --where CONDITION    only rows that fulfil it: "temp_max > 20". One of = != < <= > >= between a column and a number, a
+                       text in quotes, true, false, null or a date, which may stand between # and #. A column whose name
+                       holds one of these signs stands in double quotes
+  --find TEXT          only rows with the text somewhere in a text column
+
+Sums and groups, also of the rows that --where and --find leave
+  --sum COLUMN         the sum of a column, in each group if there are groups; likewise --mean, --min and --max. May be
+                       given again
+  --count              the rows of each group; the default if nothing else is asked for
+  --distinct COLUMN    gather the rows by equal values of a column
+  --group-by COL:PER   gather the rows by a period of a date column. Periods:
+                         year, quarter, month, week, day, iso-year, iso-quarter, iso-week
+  --fiscal-start N     the month, 1 to 12, with which years and quarters begin (1)
+  --week-start N       the day, 1 = Sunday to 7 = Saturday, with which a week begins (1), or an iso-week (2)
+  --sql-nulls          a null makes a sum, mean, minimum or maximum null, and no condition holds for it. Otherwise it
+                       takes no part in them, and is less than everything else in a condition
+
+How texts are compared and searched
+  --collation NAME     by a collator name: LEN_RUS_S2 is English (en_US) without case, binary the order of code units
+  --locale LOCALE      or by a locale: sv_SE. Without either, by the root order of all languages
+  --ignore-case, --ignore-accents
+                       with --locale: A equals a, e equals é
+  --word-sort          with --locale: hyphens and apostrophes are ignored
+  --explain-collation NAME
+                       print what a collator name means, and some words in its order
+
+  --help               print this text
+
+Exit code: 0, or 2 with one line on standard error if the file or the options are bad.
+)";
+
+}  // namespace typedtable
