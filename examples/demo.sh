@@ -1,14 +1,27 @@
 #!/usr/bin/env bash
-# Shows typedtable on daily weather. TYPEDTABLE: the program, if not the one of the release build.
+# Shows typedtable on daily weather and on airports. TYPEDTABLE: the program, if not the one of the release build.
 set -eu
 cd "$(dirname "$0")/.."
 program=${TYPEDTABLE:-build/release/examples/typedtable}
 
 run() {
-    printf '\n$ typedtable %s\n' "$*"
+    printf '\n$ typedtable'
+    for word in "$@"; do
+        case $word in
+        *[\ \>\<]*) printf " '%s'" "$word" ;;
+        *) printf ' %s' "$word" ;;
+        esac
+    done
+    printf '\n'
     "$program" "$@"
 }
 
 run examples/data/weather.csv
 run examples/data/weather.csv --group-by date:quarter --fiscal-start 4 --sum precipitation --max temp_max
 run examples/data/weather.csv --group-by date:iso-year --count --mean wind --min date --max date
+run examples/data/weather.csv --where 'temp_max > 35' --sort temp_max
+run examples/data/weather.csv --where 'precipitation > 0' --sum precipitation --mean wind --min temp_min --max temp_max
+run examples/data/weather.csv --distinct weather --count --mean temp_max
+run examples/data/airports.csv --sort name --collation LEN_RUS_S2 --rows 10
+run examples/data/airports.csv --find lafayette --sort city --locale en_US --ignore-case
+run --explain-collation LEN_RUS_S2
