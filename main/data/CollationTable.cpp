@@ -313,13 +313,12 @@ inline int CollationFastPath::CompareFrom(TextCursor a, TextCursor b, char16_t c
         if (left == right)
             continue;
         if (left->primary != right->primary)
-            return left->primary < right->primary ? -1 : 1;
+            return Sign(left->primary, right->primary);
         several = several || ((left->third | right->third) & CollationWeights::several) != 0;
-        if (secondary == 0 && left->secondary != right->secondary)
-            secondary = left->secondary < right->secondary ? -1 : 1;
-        int const third = (left->third & CollationWeights::weightMask) - (right->third & CollationWeights::weightMask);
-        if (tertiary == 0 && third != 0)
-            tertiary = third < 0 ? -1 : 1;
+        if (secondary == 0)
+            secondary = Sign(left->secondary, right->secondary);
+        if (tertiary == 0)
+            tertiary = Sign(left->third & CollationWeights::weightMask, right->third & CollationWeights::weightMask);
     }
 }
 

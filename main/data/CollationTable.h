@@ -88,6 +88,21 @@ public:
     CollationFastPath() = default;
     CollationFastPath(std::shared_ptr<CollationTable const> table, Settings settings);
 
+    // Without a branch: which text is the lower one cannot be foretold.
+    template <class Weight>
+    static int Sign(Weight a, Weight b)
+    {
+        return static_cast<int>(a > b) - static_cast<int>(a < b);
+    }
+    // Most texts are settled by their first characters, which need no look at their neighbours.
+    bool DecideByFirst(char16_t a, char16_t b, int & order) const
+    {
+        CollationWeights const & left = Find(a);
+        CollationWeights const & right = Find(b);
+        order = Sign(left.primary, right.primary);
+        return (((left.third | right.third) & m_slow) == 0) & (order != 0);
+    }
+
     // -1, 0, 1 or undecided.
     int Compare(char16_t const * a, char16_t const * b) const
     {
@@ -116,14 +131,6 @@ private:
     struct TerminatedCursor;
     enum class Step : std::uint8_t;
 
-    // Most texts are settled by their first characters, which need no look at their neighbours.
-    bool DecideByFirst(char16_t a, char16_t b, int & order) const
-    {
-        CollationWeights const & left = Find(a);
-        CollationWeights const & right = Find(b);
-        order = left.primary < right.primary ? -1 : 1;
-        return ((left.third | right.third) & m_slow) == 0 && left.primary != right.primary;
-    }
     int CompareTerminated(char16_t const * a, char16_t const * b) const;
     int CompareLengths(char16_t const * a, char16_t const * aEnd, char16_t const * b, char16_t const * bEnd) const;
     template <class TextCursor>

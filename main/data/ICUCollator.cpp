@@ -171,24 +171,34 @@ void ICUCollator::UseTable(std::shared_ptr<CollationTable const> table)
 
 int ICUCollator::Compare(char16_t const * a, int aLength, char16_t const * b, int bLength) const
 {
-    VELTRIA_ASSERT(m_pUCollator, 0x5F14D391);
-    if (aLength >= 0 && bLength >= 0 && a != nullptr && b != nullptr) [[likely]] {
-        int const decided = m_fast.Compare(a, a + aLength, b, b + bLength);
-        if (decided != CollationFastPath::undecided)
-            return decided;
-    }
-    return VelICU::t_ucol_strcoll(m_pUCollator, a, aLength, b, bLength);
+    int order = 0;
+    if (aLength > 0 && bLength > 0 && a != nullptr && b != nullptr && m_pUCollator != nullptr &&
+        m_fast.DecideByFirst(*a, *b, order)) [[likely]]
+        return order;
+    return CompareRest(a, aLength, b, bLength);
 }
 
 int ICUCollator::Compare(char16_t const * a, char16_t const * b) const
 {
+    int order = 0;
+    if (a != nullptr && b != nullptr && m_pUCollator != nullptr && m_fast.DecideByFirst(*a, *b, order)) [[likely]]
+        return order;
+    return CompareRest(a, -1, b, -1);
+}
+
+// Out of the way, so that the common case needs no stack.
+int ICUCollator::CompareRest(char16_t const * a, int aLength, char16_t const * b, int bLength) const
+{
     VELTRIA_ASSERT(m_pUCollator, 0x5F14D391);
-    if (a != nullptr && b != nullptr) [[likely]] {
-        int const decided = m_fast.Compare(a, b);
-        if (decided != CollationFastPath::undecided)
-            return decided;
+    int decided = CollationFastPath::undecided;
+    if (a != nullptr && b != nullptr) {
+        if (aLength >= 0 && bLength >= 0)
+            decided = m_fast.Compare(a, a + aLength, b, b + bLength);
+        else if (aLength < 0 && bLength < 0)
+            decided = m_fast.Compare(a, b);
     }
-    return VelICU::t_ucol_strcoll(m_pUCollator, a, -1, b, -1);
+    return decided != CollationFastPath::undecided ? decided
+                                                   : VelICU::t_ucol_strcoll(m_pUCollator, a, aLength, b, bLength);
 }
 
 VelICU::ICUStringSearch * ICUCollator::GetCollatorSearch(char16_t const * text, char16_t const * pattern) const

@@ -55,6 +55,7 @@ public:
 private:
     friend struct ICUCollatorTestAccess;
 
+    [[gnu::noinline]] int CompareRest(char16_t const * a, int aLength, char16_t const * b, int bLength) const;
     void ApplyCollatorAttribute(int attr, int value);
     void SetAttribute(VelICU::ICU_Collator * collator, int attribute, int value) const;
     void AppendCollationRules(char16_t const * rule, int length);
