@@ -20,3 +20,6 @@ set(velcoredata_pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH velcoredata_prefix_from_pkgconfig "/${velcoredata_pkgconfig_dir}" "/")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/velcoredata.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/velcoredata.pc" @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/velcoredata.pc" DESTINATION "${velcoredata_pkgconfig_dir}")
+
+# For `source` in gdb.
+install(FILES "${PROJECT_SOURCE_DIR}/tools/gdb/velcoredata_gdb.py" DESTINATION "${CMAKE_INSTALL_DATADIR}/velcoredata/gdb")

@@ -180,6 +180,24 @@ TEST(BinaryDataValue, AValueEncodesByItsTypeAndMarkersAreNotLookedAt)
     EXPECT_EQ(BytesOf(Null(DataType::DateTime)), Little((DateTime::s_OLEEpoch + 864000000) * 100, 8));
 }
 
+// The examples of docs/formats/binary-values.md.
+TEST(BinaryDataValue, ThePageOfByteFormsTellsTheTruth)
+{
+    EXPECT_EQ(BytesOf(DateOf(2000, 1, 1)), Content("\x59\x68\x25\x00", 4));
+    EXPECT_EQ(BytesOf(Null(DataType::Date)), Content("\xAB\xD9\x24\x00", 4));
+    EXPECT_EQ(BytesOf(Null(DataType::DateTime)), Content("\x00\x20\x3D\xFF\x04\x4D\xE5\x02", 8));
+    EXPECT_EQ(BytesOf(DatetimeOf(2000, 1, 1, 12, 0, 0, 0.5)), Content("\x20\xB1\xD3\xCD\x48\x83\xF0\x02", 8));
+    EXPECT_EQ(BytesOf(1.5), Content("\0\0\0\0\0\0\xF8\x3F", 8));
+    EXPECT_EQ(BytesOf(DataValue(DateTime::FromValue(DateTime::maxGregorianDate), DataType::DateTime)).back() & 0x80, 0);
+    DateTime const moment(2021, 3, 4, 12, 34, 56, 0.5);
+    Bytes const bytes = BytesOf(DataValue(moment, DataType::DateTime));
+    std::uint64_t count = 0;
+    std::memcpy(&count, bytes.data(), 8);
+    long long seconds = 0;
+    ASSERT_TRUE(moment.GetAsUnixTime(seconds, true));
+    EXPECT_EQ(static_cast<long long>(count / 1000000) - 210866803200, seconds);
+}
+
 TEST(BinaryDataValue, OtherTypesChangeNothing)
 {
     for (DataValue const & value : {TupleOf({1}), DataValue(MakeSpatial(1, 1)), DataValue(), BinaryOf({'x'}),

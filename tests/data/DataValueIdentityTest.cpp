@@ -275,11 +275,12 @@ TEST(DataValueIdentity, LiteralForm)
 TEST(DataValueIdentity, EveryNullReadsNullAndEveryOtherMarkerHasNoLiteral)
 {
     for (DataValue const & value : AllMarkers()) {
-        if (value.IsNull())
+        if (value.IsNull()) {
             EXPECT_EQ(value.FormatAsLiteral(), TString(u"NULL"));
-        else if (value.IsSpecial())
+        } else if (value.IsSpecial()) {
             EXPECT_THAT([&] { value.FormatAsLiteral(); },
                         ThrowsAssert("GetSpecial() == DataValueTypes::Null", "LogicException_LogicAssert_0x21164B74"));
+        }
     }
 }
 

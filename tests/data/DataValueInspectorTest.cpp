@@ -101,9 +101,10 @@ TEST(DataValueInspector, AStringWithoutAPayloadIsEmptyUnderTheUnknownCollation)
 TEST(DataValueInspector, MarkersOfEveryTypeGoToInspectSpecial)
 {
     for (DataValue const & value : AllMarkers())
-        if (value.IsSpecial())
+        if (value.IsSpecial()) {
             EXPECT_THAT(CallsOf(value), ElementsAre("special " + std::to_string(static_cast<int>(value.GetSpecial())) +
                                                     ' ' + std::to_string(static_cast<int>(value.GetDataType()))));
+        }
 }
 
 TEST(DataValueInspector, BinaryAndUnknownValuesAreInvisible)
