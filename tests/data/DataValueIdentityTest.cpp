@@ -221,9 +221,10 @@ TEST(DataValueIdentity, NegationLooksAtTheTypeAlone)
     expect(-All(DataType::Real), -0.0);
     EXPECT_TRUE(std::signbit((-DataValue(kNaN)).GetReal()));
     for (int type = 2; type < kTypes; ++type)
-        if (TypeOf(type) != DataType::Tuple)
+        if (TypeOf(type) != DataType::Tuple) {
             EXPECT_THAT([&] { -Null(TypeOf(type)); }, ThrowsAssert("Unary operator- is unsupported for this data type.",
                                                                    "LogicException_LogicAssert_0xED6A87E9"));
+        }
     EXPECT_THAT([] { -TupleOf({1}); }, ThrowsAssert("Unary operator- is unsupported for this data type."));
 }
 
