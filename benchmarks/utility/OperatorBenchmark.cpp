@@ -87,16 +87,23 @@ void FailingCheckOurs(benchmark::State & state)
     }
 }
 
-[[gnu::noinline]] void ThrowDirectly()
+// Thrown from as many calls below the handler as the check throws from: each costs its share of the unwinding.
+template <int Calls>
+[[gnu::noinline]] void ThrowBelow()
 {
-    VELTRIA_THROW(DataValueOperatorException, 0x5EA10C37, u"type exception");
+    if constexpr (Calls == 1) {
+        VELTRIA_THROW(DataValueOperatorException, 0x5EA10C37, u"type exception");
+    } else {
+        ThrowBelow<Calls - 1>();
+        benchmark::ClobberMemory();
+    }
 }
 
 void FailingCheckPeer(benchmark::State & state)
 {
     for (auto _ : state) {
         try {
-            ThrowDirectly();
+            ThrowBelow<4>();
         } catch (DataValueOperatorException const & e) {
             benchmark::DoNotOptimize(&e);
         }

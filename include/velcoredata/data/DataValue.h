@@ -23,8 +23,8 @@
 // Example:
 //   DataValue v(5);                                     // Integer
 //   v.SetDecimal(1.5, 5, 2);                            // Real with precision 5 and scale 2
-//   v.GetInt();                                         // raises "Incorrect data type real, getting expected integer
-//   type." DataValue(DataValueTypes::Null, DataType::Integer).GetInt();  // 0: readers test the type, never the marker
+//   v.GetInt();  // raises "Incorrect data type real, getting expected integer type."
+//   DataValue(DataValueTypes::Null, DataType::Integer).GetInt();  // 0: readers test the type, never the marker
 #pragma once
 
 #include <bit>

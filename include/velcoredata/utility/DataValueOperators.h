@@ -127,8 +127,11 @@ public:
 private:
     // The marker that SQL semantics put in the place of a result, if an operand is one.
     bool TakeMarker(DataValue const & a, DataValue const & b, DataValue & result) const;
-    template <class OnIntegers, class OnReals>
-    DataValue Combine(DataValue const & a, DataValue const & b, OnIntegers onIntegers, OnReals onReals) const;
+    bool AreNumbers(DataValue const & a, DataValue const & b) const noexcept;
+    template <class Operation>
+    static DataValue CombineNumbers(DataValue const & a, DataValue const & b);
+    template <class Operation>
+    [[gnu::noinline]] DataValue CombineByCast(DataValue const & a, DataValue const & b) const;
     DataValue DateAdd(DataValue const & a, DataValue const & b) const;
     DataValue DateSubtract(DataValue const & a, DataValue const & b) const;
     [[noreturn]] void ThrowTypeException(DataType type) const;
