@@ -47,13 +47,6 @@ int DigitValue(char16_t c)
     return c >= u'a' && c <= u'f' ? c - u'a' + 10 : -1;
 }
 
-// A leading byte-order mark is text here. The platform's conversion takes one away, so it is given one more.
-TString FromUtf8(std::string const & bytes)
-{
-    static constexpr char mark[] = "\xEF\xBB\xBF";
-    return bytes.compare(0, 3, mark) == 0 ? TString::fromStdString(mark + bytes) : TString::fromStdString(bytes);
-}
-
 }  // namespace
 
 TString Escape(TString const & text, TString const & characters, char16_t escape)
@@ -147,7 +140,7 @@ bool HexDecode(TString const & text, TString & result)
         bytes += static_cast<char>(byte);
         high = -1;
     }
-    result = FromUtf8(bytes);
+    result = TString::fromStdString(bytes);
     return good;
 }
 

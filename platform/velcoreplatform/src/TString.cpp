@@ -5,6 +5,7 @@
 #include <cstring>
 #include <ostream>
 
+#include <QtCore/QStringDecoder>
 #include <QtCore/QStringEncoder>
 #include <QtCore/QStringList>
 
@@ -47,6 +48,14 @@ TString FormatInteger(Integer value, int fieldWidth, int base, char16_t fill)
     return fieldWidth < 0 ? text.leftJustified(-fieldWidth, QChar(fill)) : text;
 }
 
+// QString::fromUtf8 drops a leading U+FEFF; a text keeps every character that it has.
+TString DecodeUtf8(QByteArrayView bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    return TString(QString(decoder.decode(bytes)));
+}
+
 }  // namespace
 
 TString::TString(wchar_t const * text, int length) : TString(fromWChar(text, length)) {}
@@ -55,7 +64,9 @@ TString::TString(char const * text, int length) : TString(fromUtf8(text, length)
 
 TString TString::fromUtf8(char const * text, int length)
 {
-    return text == nullptr ? TString() : TString(QString::fromUtf8(text, length));
+    if (text == nullptr)
+        return TString();
+    return DecodeUtf8(QByteArrayView(text, length < 0 ? static_cast<qsizetype>(std::strlen(text)) : length));
 }
 
 TString TString::fromLatin1(char const * text, int length)
@@ -70,7 +81,7 @@ TString TString::fromWChar(wchar_t const * text, int length)
 
 TString TString::fromStdString(std::string const & text)
 {
-    return TString(QString::fromStdString(text));
+    return DecodeUtf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 TString TString::fromStdWString(std::wstring const & text)

@@ -45,6 +45,8 @@ TEST(TStringMake, FromEveryKindOfTextWithALength)
 TEST(TStringMake, FromEncodedText)
 {
     EXPECT_EQ(TString::fromUtf8("\xF0\x9F\x98\x80"), u"\U0001F600");
+    EXPECT_EQ(TString::fromUtf8("\xEF\xBB\xBFx"), u"\uFEFFx");
+    EXPECT_EQ(TString::fromStdString("\xEF\xBB\xBFx"), u"\uFEFFx");
     EXPECT_EQ(TString::fromUtf8("text", 2), u"te");
     EXPECT_EQ(TString::fromUtf8("\xFF"), u"\uFFFD");
     EXPECT_EQ(TString::fromUtf16(u"text"), u"text");

@@ -104,7 +104,7 @@ public:
     operator TStringCore const &() const noexcept { return m_core; }
     std::u16string_view View() const noexcept { return m_core.View(); }
     QString const & toQString() const noexcept { return m_core.toQString(); }
-    // UTF-8; a lone surrogate becomes U+FFFD.
+    // UTF-8; a lone surrogate becomes "?".
     std::string toStdString() const { return toQString().toStdString(); }
     std::u16string toStdU16String() const { return std::u16string(View()); }
     // UTF-8; *ok is false if a lone surrogate could not be written.
