@@ -11,6 +11,8 @@
 
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ErrorMatchers.h"
+#include "velcoredata/data/BinaryDataValue.h"
+#include "velcoredata/data/Tuple.h"
 #include "velcoreplatform/TLog.h"
 
 namespace {
@@ -456,6 +458,20 @@ TEST(DataValue, ANullSpatialPointerIsRefusedAndTheValueKept)
         ThrowsError("VeltriaException_AutoGen_0x90F95D59", "DataValue::SetSpatial: cannot construct from null"));
     DataValue value(5);
     EXPECT_THAT([&] { value.SetSpatial(nullptr); }, ThrowsError("VeltriaException_AutoGen_0x90F95D59"));
+    ExpectFields(value, BytesOf(DataValue(5)));
+}
+
+TEST(DataValue, NullPointersToTuplesAndBinaryDataAreRefusedAndTheValueKept)
+{
+    using TuplePtr = RefCntPtr<Tuple, RefCntObject>;
+    using BinaryPtr = RefCntPtr<BinaryDataValue, RefCntObject>;
+    EXPECT_THAT([] { DataValue{TuplePtr()}; },
+                ThrowsError("VeltriaException_AutoGen_0x92C27045", "DataValue::SetTuple: bad argument"));
+    EXPECT_THAT([] { DataValue{BinaryPtr()}; },
+                ThrowsError("VeltriaException_AutoGen_0x0EB526BD", "DataValue::SetBinary: cannot construct from null"));
+    DataValue value(5);
+    EXPECT_THAT([&] { value.SetTuple(TuplePtr()); }, ThrowsError("VeltriaException_AutoGen_0x92C27045"));
+    EXPECT_THAT([&] { value.SetBinary(BinaryPtr()); }, ThrowsError("VeltriaException_AutoGen_0x0EB526BD"));
     ExpectFields(value, BytesOf(DataValue(5)));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <ostream>
 
@@ -132,6 +133,9 @@ TString TString::number(unsigned long long value, int fieldWidth, int base, char
 TString TString::number(double value, char format, int precision, bool stripPoint)
 {
     QString text = QString::number(value, format, precision);
+    // Qt drops the sign of zero, and with it a bit of the number.
+    if (value == 0.0 && std::signbit(value) && !text.startsWith(u'-'))
+        text.prepend(u'-');
     bool const whole =
         std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c == u'-' || (c >= u'0' && c <= u'9'); });
     if (!stripPoint && whole)

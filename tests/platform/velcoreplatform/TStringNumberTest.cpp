@@ -72,7 +72,7 @@ TEST(TStringNumber, WritesReals)
         {1e-5, 'g', 6, u"1e-05"},
         {1.5, 'f', 3, u"1.500"},
         {2.5, 'f', 0, u"3"},
-        {-0.0, 'g', 6, u"0"},
+        {-0.0, 'g', 6, u"-0"},
         {1234.5, 'e', 2, u"1.23e+03"},
         {kInfinity, 'g', 6, u"inf"},
         {-kInfinity, 'f', 6, u"-inf"},
