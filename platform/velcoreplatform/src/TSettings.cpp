@@ -61,7 +61,9 @@ TSettings::Store & CurrentStore()
 TSettings::Store::~Store() = default;
 
 TSettings::TSettings(Group group, TString const & organization, TString const & application)
-    : m_group(group), m_organization(organization), m_application(application)
+    : m_group(group),
+      m_organization(organization.isEmpty() ? TString(kOrganization) : organization),
+      m_application(application.isEmpty() ? TString(kApplication) : application)
 {}
 
 void TSettings::SetStringValue(TString const & key, TString const & value)

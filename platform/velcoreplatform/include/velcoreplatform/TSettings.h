@@ -28,7 +28,7 @@ public:
                          TString const & value) = 0;
     };
 
-    // A group of another application's settings.
+    // A group of another application's settings; empty names are the application's own.
     TSettings(Group group, TString const & organization, TString const & application);
     void SetStringValue(TString const & key, TString const & value);
 
