@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "velcoredata/core/Export.h"
+#include "velcoredata/core/LanguageScript.h"
 #include "velcoredata/core/MapCode.h"
 #include "velcoreplatform/TString.h"
 #include "velsys/Lcid.h"
@@ -22,14 +23,6 @@
 class TLocale;
 
 namespace LanguageUtils {
-
-/// How the Chinese of a locale is written.
-enum LanguageScript : int
-{
-    ScriptNone = 0,  ///< not Chinese, or not said
-    ScriptSimplified = 1,
-    ScriptTraditional = 2,
-};
 
 // Locale names and LCIDs.
 

@@ -50,6 +50,21 @@ VELCOREDATA_API TString GetCurrencyCode(TString const & locale);     ///< "EUR"
 VELCOREDATA_API LCID GetDefaultLCID();                               ///< of the default locale, 0x409 for en_US
 VELCOREDATA_API LCID GetLCID(TString const & locale);                ///< 0x407; 0 if there is none
 
+// Names in the language of an LCID, on the Gregorian calendar. All numbers count from 1, a number out of range gives an
+// empty text.
+
+VELCOREDATA_API TString GetLongDayName(int day, LCID lcid);           ///< (1, 0x409) is "Sunday"
+VELCOREDATA_API TString GetLongMonthName(int month, LCID lcid);       ///< (1, 0x409) is "January"
+VELCOREDATA_API TString GetShortQuarterName(int quarter, LCID lcid);  ///< (1, 0x409) is "Q1"
+/// The name of quarter 1 without its every "1": "Q" for 0x409.
+VELCOREDATA_API TString GetShortQuarterName(LCID lcid);
+/// The name of a locale in the language of another: (0x407, 0x409) is "German (Germany)".
+VELCOREDATA_API TString GetDisplayName(LCID lcid, LCID displayLcid);
+
+/// The pattern that shows the fields of a skeleton in the manner of a locale: "MMM d, y" for "yMMMd" and 0x409. The
+/// skeleton itself if ICU has none. The generators of at most five locales are kept; a sixth empties the store first.
+VELCOREDATA_API TString GetBestDateTimePattern(TString const & skeleton, LCID lcid);
+
 // Text. No failure of ICU leaves these functions: they answer with the input, an empty text or 0.
 
 /// Words by the rules of a locale ("th" finds them by dictionary): blanks and punctuation do not count.
