@@ -442,7 +442,8 @@ std::size_t CollationFastPath::WriteSortKey(char16_t const * text, std::uint8_t 
     constexpr int maxLength = 200;
     if (m_owner == nullptr || !m_settings.plainTies || m_settings.strength > TERTIARY)
         return 0;
-    std::uint8_t tertiaries[3 * maxLength + 8];
+    std::uint8_t tertiaries[3 * maxLength + 16];
+    std::memset(tertiaries, 0, 16);
     std::uint8_t * tertiaryEnd = tertiaries;
     unsigned common = 0;
     int count = 0;
@@ -485,7 +486,13 @@ std::size_t CollationFastPath::WriteSortKey(char16_t const * text, std::uint8_t 
     if (m_settings.strength >= TERTIARY) {
         *out++ = levelSeparator;
         tertiaryEnd = AppendCommonToEnd(tertiaryEnd, common, 0x61, 0x65);
-        out = std::copy(tertiaries, tertiaryEnd, out);
+        // Mostly a byte or two; a copy of fixed size is no call.
+        auto const size = static_cast<std::size_t>(tertiaryEnd - tertiaries);
+        if (size <= 16)
+            std::memcpy(out, tertiaries, 16);
+        else
+            std::memcpy(out, tertiaries, size);
+        out += size;
     }
     *out++ = 0;
     return static_cast<std::size_t>(out - key);

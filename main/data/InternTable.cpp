@@ -1,5 +1,6 @@
 #include "main/data/InternTable.h"
 
+#include <cstdint>
 #include <cstring>
 #include <utility>
 
@@ -17,6 +18,26 @@ unsigned InternTable::SlotHash(TString const & text)
     return hash != 0 ? hash : 1;
 }
 
+namespace {
+
+// Inline for the short texts that columns repeat.
+inline bool EqualUnits(char16_t const * a, char16_t const * b, int length)
+{
+    auto const eightBytes = [](char16_t const * at) {
+        std::uint64_t word;
+        std::memcpy(&word, at, sizeof word);
+        return word;
+    };
+    if (length < 4)
+        return length <= 0 || (a[0] == b[0] && a[length / 2] == b[length / 2] && a[length - 1] == b[length - 1]);
+    for (int i = 0; i + 4 < length; i += 4)
+        if (eightBytes(a + i) != eightBytes(b + i))
+            return false;
+    return eightBytes(a + length - 4) == eightBytes(b + length - 4);
+}
+
+}  // namespace
+
 InternedString InternTable::LookupText(TString const & text)
 {
     unsigned const hash = SlotHash(text);
@@ -27,8 +48,7 @@ InternedString InternTable::LookupText(TString const & text)
         Slot const & slot = m_slots[i];
         if (slot.hash == 0)
             return {};
-        if (slot.hash != hash || slot.length != length ||
-            (length != 0 && std::memcmp(slot.text, units, 2 * static_cast<std::size_t>(length)) != 0))
+        if (slot.hash != hash || slot.length != length || !EqualUnits(slot.text, units, length))
             continue;
         MoveToFront(*slot.entry);
         return slot.entry->value;
