@@ -62,7 +62,7 @@ int GregorianDateOptions::GetMinDaysInFirstWeek() const
 
 FirstWeekBehaviour GregorianDateOptions::GetFirstWeekBehavior() const
 {
-    return FirstWeekBehaviour::FirstDay;
+    return FirstWeekUnset;
 }
 
 DateTimeHierarchy const & GregorianDateOptions::GetHierarchy(DateDataType dataType, DateComputationKind kind) const

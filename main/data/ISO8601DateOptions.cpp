@@ -45,7 +45,7 @@ int ISO8601DateOptions::GetMinDaysInFirstWeek() const
 
 FirstWeekBehaviour ISO8601DateOptions::GetFirstWeekBehavior() const
 {
-    return FirstWeekBehaviour::FirstFourDayWeek;
+    return FirstWeekFourDays;
 }
 
 DateTimeHierarchy const & ISO8601DateOptions::GetHierarchy(DateDataType dataType, DateComputationKind kind) const

@@ -1,5 +1,6 @@
 #include "main/string/CalendarCache.h"
 
+#include "velcoredata/core/TLocale.h"
 #include "velcoreplatform/InitOnce.h"
 #include "velsys/ThrowSite.h"
 
@@ -53,7 +54,7 @@ struct Return
 CalendarWrapper::CalendarWrapper()
 {
     VelICU::ICUErrorCode status = VelICU::U_ZERO_ERROR;
-    calendar = VelICU::ICUCalendar::createInstance(*VelICU::ICULocale::createInstance("en_US"), status);
+    calendar = VelICU::ICUCalendar::createInstance(TLocale::GetISODefaultLocale().getICULocale(), status);
     VELTRIA_ASSERT(VelICU::ICU_SUCCESS(status), 0x724C7F0E);
     // A new calendar stands at the present moment; its milliseconds would stay in every date.
     calendar->clear();

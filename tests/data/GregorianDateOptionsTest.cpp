@@ -36,7 +36,7 @@ TEST(GregorianDateOptions, AnswersForTheGregorianCalendar)
     EXPECT_EQ(options.GetCalendarType(), CalendarType::Gregorian);
     EXPECT_EQ(options.GetCalendarTypeId(), TString(u"Gregorian"));
     EXPECT_EQ(options.GetMinDaysInFirstWeek(), 1);
-    EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekBehaviour::FirstDay);
+    EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekUnset);
 }
 
 TEST(GregorianDateOptions, SettersStoreWhateverTheyGet)

@@ -19,7 +19,7 @@ TEST(ISO8601DateOptions, AnswersForTheIsoWeekCalendar)
     EXPECT_EQ(options.GetStartOfWeek(), SOW_MONDAY);
     EXPECT_EQ(options.GetFiscalYearStart(), FYS_JANUARY);
     EXPECT_EQ(options.GetMinDaysInFirstWeek(), 4);
-    EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekBehaviour::FirstFourDayWeek);
+    EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekFourDays);
 }
 
 TEST(ISO8601DateOptions, SettersChangeNothing)

@@ -53,13 +53,14 @@ constexpr bool operator!=(FYSValues fiscalYearStart, int month) noexcept
     return static_cast<int>(fiscalYearStart) != month;
 }
 
-/// Which week is week 1. The Gregorian options answer FirstDay, the ISO 8601 options FirstFourDayWeek; no class of the
-/// library answers 1.
-enum class FirstWeekBehaviour : std::int32_t
+/// Which week is week 1. The Gregorian date options answer FirstWeekUnset, though their week 1 holds January 1; the ISO
+/// 8601 options answer FirstWeekFourDays; a locale answers any of the other three.
+enum FirstWeekBehaviour : std::int32_t
 {
-    FirstDay = 0,          ///< the week that holds the first day of the year
-    FirstFullWeek = 1,     ///< the first week that lies in the year with all seven days
-    FirstFourDayWeek = 2,  ///< the first week that lies in the year with four days or more
+    FirstWeekUnset = 0,
+    FirstWeekContainsJanFirst = 1,  ///< the week that holds January 1, however short
+    FirstWeekFourDays = 2,          ///< the first week with four days or more in the year
+    FirstWeekFullWeek = 3,          ///< the first week with all seven days in the year
 };
 
 /// What a hierarchy of aggregations is for.

@@ -40,6 +40,11 @@ public:
     /// ConvertToGregorianAggType.
     AggType GetNormalizedAggType(AggType aggregation) const override;
 
+    /// TLocale::GetMinimalDaysInFirstWeek.
+    unsigned GetMinDaysInFirstWeekWhenUsingLocale(LCID lcid) const override;
+    /// TLocale::FirstWeekIsBroken.
+    bool HasBrokenWeeksWhenUsingLocale(LCID lcid) const override;
+
     /// AGG_ISO_WEEK to AGG_WEEK, TRUNC_ISO_DAY to TRUNC_DAY and so on; everything that is not of the ISO 8601 calendar
     /// comes back as it is. Not the inverse of ISO8601DateOptions::ConvertToISO8601AggType: a month goes to an ISO
     /// week, and an ISO week to a week.

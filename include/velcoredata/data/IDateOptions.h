@@ -3,6 +3,7 @@
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/AggType.h"
 #include "velcoredata/data/DateEnums.h"
+#include "velsys/Lcid.h"
 
 #include <memory>
 #include <vector>
@@ -55,6 +56,12 @@ public:
 
     /// The aggregation of this calendar that stands for one of the other calendar. Others come back as they are.
     virtual AggType GetNormalizedAggType(AggType aggregation) const = 0;
+
+    /// How many days of week 1 lie in the year, at least, by the rules of a locale: of 1033 it is 1, of 1031 4.
+    virtual unsigned GetMinDaysInFirstWeekWhenUsingLocale(LCID lcid) const = 0;
+    /// Whether a week that two years share counts as two weeks, the last of one year and the first of the next, by the
+    /// rules of a locale: true for 1033.
+    virtual bool HasBrokenWeeksWhenUsingLocale(LCID lcid) const = 0;
 
 protected:
     IDateOptions() = default;

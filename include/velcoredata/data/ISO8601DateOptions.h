@@ -42,6 +42,11 @@ public:
     /// ConvertToISO8601AggType.
     AggType GetNormalizedAggType(AggType aggregation) const override;
 
+    /// 4, whatever the locale.
+    unsigned GetMinDaysInFirstWeekWhenUsingLocale(LCID lcid) const override;
+    /// False, whatever the locale.
+    bool HasBrokenWeeksWhenUsingLocale(LCID lcid) const override;
+
     /// AGG_YEAR to AGG_ISO_YEAR, TRUNC_MONTH and TRUNC_WEEK to TRUNC_ISO_WEEK and so on. Hours, minutes, seconds and
     /// the uncommon parts are of both calendars and come back as they are, as does everything outside 14 to 34.
     static AggType ConvertToISO8601AggType(AggType aggregation);

@@ -1,14 +1,17 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/DateEnums.h"
+#include "velcoredata/string/DefaultDateTimeFormatSpec.h"
 #include "velcoreplatform/TString.h"
 #include "velsys/Lcid.h"
 
 class DateTime;
 class TDateTimeFormat;
+class TLocale;
 
 /// Dates, texts and names by ICU. A TDate is a moment in milliseconds since 1970-01-01 00:00:00 UTC. All functions may
 /// be called from any thread.
@@ -40,6 +43,24 @@ VELCOREDATA_API SOWValue GetStartOfWeek();
 
 /// format(tdate).
 VELCOREDATA_API TString FormatDateTimePattern(double const & tdate, TDateTimeFormat const & format);
+
+/// First day of the week in a locale: SOW_SUNDAY for "en_US", SOW_MONDAY for "de_DE", and where ICU makes no calendar.
+VELCOREDATA_API SOWValue GetFirstDayOfWeek(TLocale const & locale);
+
+// Dates as text in the manner of an LCID: by a pattern in ICU's letters ("dd.MM.yyyy"), by the pattern that shows the
+// fields of a skeleton best ("yMMMd"; see GetBestDateTimePattern), or by one of the locale's own. Raises as
+// TDateTimeFormat does.
+
+VELCOREDATA_API std::unique_ptr<TDateTimeFormat> GetDateTimeFormatter(TString const & pattern, LCID lcid);
+VELCOREDATA_API std::unique_ptr<TDateTimeFormat> GetBestDateTimeFormatter(TString const & skeleton, LCID lcid);
+VELCOREDATA_API std::unique_ptr<TDateTimeFormat> GetDateTimeDefaultFormatter(DefaultDateTimeFormatSpec spec, LCID lcid);
+VELCOREDATA_API TString FormatDateTimePattern(double const & tdate, TString const & pattern, LCID lcid);
+VELCOREDATA_API TString FormatDateTimePattern(DateTime const & value, TString const & pattern, LCID lcid);
+VELCOREDATA_API TString FormatBestDateTimePattern(double const & tdate, TString const & skeleton, LCID lcid);
+VELCOREDATA_API TString FormatBestDateTimePattern(DateTime const & value, TString const & skeleton, LCID lcid);
+
+VELCOREDATA_API TString GetLocaleFormatAsICU(DefaultDateTimeFormatSpec spec, LCID lcid);    ///< TLocale's
+VELCOREDATA_API TString GetLocaleFormatQLocale(DefaultDateTimeFormatSpec spec, LCID lcid);  ///< TLocale's
 
 // Names, from texts such as "de_DE"; what the text does not have is empty.
 

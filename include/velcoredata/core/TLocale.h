@@ -1,0 +1,163 @@
+// TLocale: the locale object, the catalogue of locales and what the system knows of each.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "velcoredata/core/Export.h"
+#include "velcoredata/core/LanguageCode.h"
+#include "velcoredata/core/MeasureSystem.h"
+#include "velcoredata/data/DateEnums.h"
+#include "velcoredata/string/DefaultDateTimeFormatSpec.h"
+#include "velcoreplatform/Locks.h"
+#include "velcoreplatform/TString.h"
+#include "velsys/Lcid.h"
+
+class LocaleFormatter;
+class QLocale;
+struct NumberFormatOptions;
+
+namespace VelICU_V2 {
+class ICUCalendar;
+class ICUDateFormat;
+class ICULocale;
+}  // namespace VelICU_V2
+
+/// One locale under three identities: an LCID, a language code and a locale of ICU; with it the formats for dates that
+/// were built for it, and the state of reading them. No name and no LCID is refused: one that nobody knows is a working
+/// root locale.
+///
+///   TLocale german(u"de_DE");            // GetLCID() is 0x407
+///   TLocale thai(0x41E, u"buddhist");    // ICU's locale is "th_TH@calendar=buddhist"
+///   TLocale copy(thai);                  // "th_TH": a copy loses the calendar
+///
+/// LCIDs: 1024 is the user's default, 2048 the system's, 4096 the pseudo-locale of bi-directional text, 0 none.
+///
+/// Const operations may be called from any thread, and the process-wide locales are shared by all. The setters, and the
+/// two operations on the cached formatter, take no lock: they are for the owner of a private object, as assignment is.
+class VELCOREDATA_API TLocale
+{
+public:
+    /// ICU's locale is of the text as it stands, the LCID that of LanguageCode(name): "de" has ICU's locale "de", the
+    /// ISO string "de_DE" and the LCID 0x407.
+    explicit TLocale(TString const & name);
+    /// Keeps the LCID as it is given, a default too; ICU's locale is that of LanguageUtils::GetLocaleStr.
+    explicit TLocale(LCID lcid);
+    /// With a calendar for ICU's locale only, "buddhist"; the empty text is none.
+    TLocale(LCID lcid, TString const & calendar);
+
+    /// Made anew from the ISO string of the language code: a calendar, a market and a default LCID do not survive
+    /// (TLocale(1024) becomes the user's real locale). The formats built so far are copied, the state of reading is
+    /// not: nothing is remembered of what the source read last. setParseNative and setCacheFormatter are the source's.
+    TLocale(TLocale const & other);
+    /// The same. Assignment to itself does all of that too.
+    TLocale const & operator=(TLocale const & other);
+    ~TLocale();
+
+    LCID GetLCID() const;
+    LanguageCode const & getLanguageCode() const { return *m_languageCode; }
+    VelICU_V2::ICULocale const & getICULocale() const { return *m_icuLocale; }
+
+    /// Whether the platform's own parser may have a try at a text; it may, unless it is told otherwise.
+    void setParseNative(bool parseNative) { m_parseNative = parseNative; }
+    /// Whether the pattern that fitted last has the first try; it has, unless it is told otherwise.
+    void setCacheFormatter(bool cacheFormatter) { m_cacheFormatter = cacheFormatter; }
+    /// The formatter that read last; null before the first reading.
+    std::unique_ptr<LocaleFormatter const> const & GetFormatterCache() const { return m_formatterCache; }
+    /// Takes the formatter over and leaves null in the argument. Given the object's own, it does nothing.
+    void SetFormatterCache(std::unique_ptr<LocaleFormatter const> & formatter);
+
+    // Locales of the process, made at the first call and never replaced.
+
+    static TLocale const & GetISODefaultLocale();       ///< "en_US"
+    static TLocale const & GetSystemInvariantLocale();  ///< TLocale(2048)
+    static TLocale const & GetUserDefaultLocale();      ///< TLocale(1024)
+    static TString const & GetUserDefaultICULocale();   ///< name of ICU's default locale, "en_US"
+    static LCID GetUserDefaultLCID();                   ///< 0x409; asked of the system at each call
+
+    // What the system knows of the locale of an LCID. The defaults, and 0, ask for the user's; an LCID that nobody
+    // knows has the answers that ILocaleInfoProvider tells.
+
+    static TString GetCurrencyString(LCID lcid);     ///< "$"
+    static int GetCurrencyDecimalPlaces(LCID lcid);  ///< 2; of 1041 (Japan) 0
+    static int GetNumberDecimalPlaces(LCID lcid);    ///< 2
+    static TString GetDecimalPoint(LCID lcid);       ///< "."
+    static TString GetThousandSeparator(LCID lcid);  ///< ","
+    static TString GetListSeparator(LCID lcid);      ///< ","
+    static void GetSystemCurrencySettings(LCID lcid, NumberFormatOptions * options);
+    static void GetSystemNumberSettings(LCID lcid, NumberFormatOptions * options);
+    static Localization::MeasureSystem GetMeasureSystem(LCID lcid);
+    static FirstWeekBehaviour GetFirstWeekBehaviour(LCID lcid);
+    static bool FirstWeekIsBroken(LCID lcid);         ///< the behaviour is FirstWeekContainsJanFirst
+    static int GetMinimalDaysInFirstWeek(LCID lcid);  ///< 4 for FirstWeekFourDays, 7 for FirstWeekFullWeek, else 1
+
+    // Patterns for dates and times in four notations: ICU's, the platform's own, that of number format strings, Qt's.
+
+    static TString GetLocaleFormatAsICU(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid);      ///< "h:mm a"
+    static TString GetLocaleFormatAsWindows(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid);  ///< "h:mm tt"
+    static TString GetLocaleFormatAsCustom(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid);   ///< "h:nn AM/PM"
+    static TString GetLocaleFormatQLocale(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid);    ///< "h:mm AP"
+
+    /// Order of the short date's fields.
+    enum DateOrder : std::int32_t
+    {
+        DateOrderUnknown = 0,  ///< a field is missing, or another order
+        DateOrderDMY = 1,      ///< day, month, year
+        DateOrderMDY = 2,
+        DateOrderYMD = 3,
+        DateOrderYDM = 4,
+    };
+    static DateOrder GetDateOrder(LCID lcid);
+
+    /// The language of an LCID, its lower ten bits: 7 for 1031. A default counts as the user's LCID.
+    static unsigned short GetPrimaryLanguage(LCID lcid);
+    /// Qt's locale of an LCID: the system's for 1024, English for 0.
+    static void GetQLocale(LCID lcid, QLocale & out);
+
+    // The catalogue of locales. The lists are put together anew at each call. The three vectors are appended to, not
+    // cleared, one entry each: LCID, name in ICU's form ("de_DE"), name in the language of `displayLcid` ("German
+    // (Germany)"). Languages without a country are not listed.
+
+    struct LocaleInfo
+    {
+        std::int32_t lcid;
+        TString name;
+        TString displayName;
+    };
+
+    /// GetSupportedLocalesWindows.
+    static void GetSupportedLocales(LCID displayLcid, std::vector<int> & lcids, std::vector<TString> & names,
+                                    std::vector<TString> & displayNames);
+    /// The locales that ICU has data for and an LCID of, in ascending order of the LCID.
+    static void GetSupportedLocalesICU(LCID displayLcid, std::vector<int> & lcids, std::vector<TString> & names,
+                                       std::vector<TString> & displayNames);
+    /// The locales of the platform, in its order. One thread at a time walks them. No exception leaves: it ends the
+    /// list, and what was appended stays.
+    static void GetSupportedLocalesWindows(LCID displayLcid, std::vector<int> & lcids, std::vector<TString> & names,
+                                           std::vector<TString> & displayNames);
+    /// The entries of the platform's list whose LCID is on ICU's list too.
+    static std::vector<LocaleInfo> GetCommonlySupportedLocalesForWindowsAndICU(LCID displayLcid);
+
+private:
+    friend struct TLocalePeer;  // of tests
+
+    using DateFormatCache = std::unordered_map<TString, std::unique_ptr<VelICU_V2::ICUDateFormat>>;
+
+    DateFormatCache CloneICUDateFormatCache() const;
+    VelICU_V2::ICUDateFormat const & GetICUDateFormat(char16_t const * pattern) const;
+
+    mutable TReadWriteLock m_dateFormatCacheLock;  // of m_dateFormatCache alone
+    std::unique_ptr<VelICU_V2::ICULocale> m_icuLocale;
+    std::unique_ptr<LanguageCode> m_languageCode;
+    mutable DateFormatCache m_dateFormatCache;  // by pattern; grows only
+    // What reading dates fills, under m_parseMutex. The calendar is built anew after 100,000 readings.
+    mutable std::unique_ptr<VelICU_V2::ICUCalendar> m_calendar;
+    mutable TRecursiveMutex m_parseMutex;
+    mutable std::int32_t m_parseCount = 0;  // readings since m_calendar was built
+    mutable bool m_lastParseNative = false;
+    bool m_parseNative = true;
+    mutable std::unique_ptr<LocaleFormatter const> m_formatterCache;
+    bool m_cacheFormatter = true;
+};

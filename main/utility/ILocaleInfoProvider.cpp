@@ -1,0 +1,3 @@
+#include "velcoredata/utility/ILocaleInfoProvider.h"
+
+ILocaleInfoProvider::~ILocaleInfoProvider() = default;
