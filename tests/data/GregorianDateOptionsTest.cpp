@@ -39,6 +39,18 @@ TEST(GregorianDateOptions, AnswersForTheGregorianCalendar)
     EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekUnset);
 }
 
+TEST(GregorianDateOptions, WeeksOfALocaleAreAskedOfIt)
+{
+    GregorianDateOptions const gregorian(SOW_MONDAY, FYS_APRIL);
+    IDateOptions const & options = gregorian;
+    EXPECT_EQ(options.GetMinDaysInFirstWeekWhenUsingLocale(1033), 1u);
+    EXPECT_EQ(options.GetMinDaysInFirstWeekWhenUsingLocale(1031), 4u);
+    EXPECT_TRUE(options.HasBrokenWeeksWhenUsingLocale(1033));
+    EXPECT_FALSE(options.HasBrokenWeeksWhenUsingLocale(1031));
+    EXPECT_EQ(options.GetMinDaysInFirstWeekWhenUsingLocale(0xFFFF), 1u);  // a locale that nobody knows
+    EXPECT_TRUE(options.HasBrokenWeeksWhenUsingLocale(0xFFFF));
+}
+
 TEST(GregorianDateOptions, SettersStoreWhateverTheyGet)
 {
     GregorianDateOptions options;

@@ -22,6 +22,16 @@ TEST(ISO8601DateOptions, AnswersForTheIsoWeekCalendar)
     EXPECT_EQ(options.GetFirstWeekBehavior(), FirstWeekFourDays);
 }
 
+TEST(ISO8601DateOptions, WeeksAreThoseOfISO8601InEveryLocale)
+{
+    ISO8601DateOptions const iso;
+    IDateOptions const & options = iso;
+    for (LCID const lcid : {1033u, 1031u, 1024u, 0u, 0xFFFFu}) {
+        EXPECT_EQ(options.GetMinDaysInFirstWeekWhenUsingLocale(lcid), 4u);
+        EXPECT_FALSE(options.HasBrokenWeeksWhenUsingLocale(lcid));
+    }
+}
+
 TEST(ISO8601DateOptions, SettersChangeNothing)
 {
     ISO8601DateOptions options;

@@ -1,0 +1,36 @@
+// What tests see of a TLocale's inside.
+#pragma once
+
+#include <cstddef>
+
+#include "velcoredata/core/LocaleFormatter.h"
+#include "velcoredata/core/TLocale.h"
+#include "velicu/ICUCalendar.h"
+#include "velicu/ICUDateFormat.h"
+#include "velicu/ICULocale.h"
+
+struct TLocalePeer
+{
+    static VelICU_V2::ICUDateFormat const & GetFormat(TLocale const & locale, char16_t const * pattern)
+    {
+        return locale.GetICUDateFormat(pattern);
+    }
+    static std::size_t CountFormats(TLocale const & locale) { return locale.m_dateFormatCache.size(); }
+
+    // The state of an object that has read dates.
+    static void PretendToHaveRead(TLocale & locale)
+    {
+        VelICU_V2::ICUErrorCode status = VelICU_V2::U_ZERO_ERROR;
+        locale.m_calendar = VelICU_V2::ICUCalendar::createInstance(*locale.m_icuLocale, status);
+        locale.m_formatterCache = std::make_unique<LocaleFormatter const>(TString(u"yyyy"), *locale.m_icuLocale);
+        locale.m_parseCount = 7;
+        locale.m_lastParseNative = true;
+    }
+    static bool HasRead(TLocale const & locale)
+    {
+        return locale.m_calendar != nullptr || locale.m_formatterCache != nullptr || locale.m_parseCount != 0 ||
+               locale.m_lastParseNative;
+    }
+    static bool ParsesNative(TLocale const & locale) { return locale.m_parseNative; }
+    static bool CachesFormatter(TLocale const & locale) { return locale.m_cacheFormatter; }
+};

@@ -1,0 +1,58 @@
+// Drivers of the tables of locales.
+
+#include <string>
+
+#include "main/utility/DatePicture.h"
+#include "main/utility/WinApiLocaleInfoProvider.h"
+#include "tests/vectors/VectorDriver.h"
+#include "velcoredata/core/LanguageUtils.h"
+#include "velcoredata/core/TLocale.h"
+
+namespace {
+
+using velcoredata::vectors::Row;
+
+TString TextOf(Row const & row, char const * column)
+{
+    return TString::fromStdU16String(row.Text(column));
+}
+
+LCID Lcid(Row const & row)
+{
+    return static_cast<LCID>(row.UInt("a1"));
+}
+
+}  // namespace
+
+VECTOR_DRIVER("locale_misc")
+{
+    std::string const & function = row.Cell("fn");
+    if (function == "GetLocaleStr")
+        row.ExpectText("expected", LanguageUtils::GetLocaleStr(Lcid(row)).View());
+    else if (function == "GetPrimaryLanguage")
+        row.ExpectInt("expected", TLocale::GetPrimaryLanguage(Lcid(row)));
+    else if (function == "GetDateOrder")
+        row.ExpectInt("expected", TLocale::GetDateOrder(Lcid(row)));
+    else if (function == "GetCurrencyDecimalPlaces")
+        row.ExpectInt("expected", TLocale::GetCurrencyDecimalPlaces(Lcid(row)));
+    else if (function == "GetMinimalDaysInFirstWeek")
+        row.ExpectInt("expected", TLocale::GetMinimalDaysInFirstWeek(Lcid(row)));
+    else if (function == "negative_of_INEGCURR")
+        row.ExpectInt("expected", static_cast<int>(detail::NegativeOfCurrencyLayout(static_cast<int>(row.Int("a1")))));
+    else if (function == "negative_of_INEGNUMBER")
+        row.ExpectInt("expected", static_cast<int>(detail::NegativeOfNumberLayout(static_cast<int>(row.Int("a1")))));
+    else if (function == "format_code_spec" || function == "Format_Time")
+        row.Skip("printing dates and times comes with the formats of TLocale");
+    else if (function == "GetCorrectedLangCode")
+        row.Skip("language codes of resource archives");
+    else
+        row.Fail("no such function");
+}
+
+VECTOR_DRIVER("numfmt_patterns")
+{
+    TString const picture = TextOf(row, "windows");
+    row.ExpectText("icu", detail::PictureToIcu(picture).View());
+    row.ExpectText("custom", detail::PictureToCustom(picture).View());
+    row.ExpectText("qt", detail::PictureToQt(picture).View());
+}
