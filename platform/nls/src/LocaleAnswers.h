@@ -18,13 +18,13 @@ std::u16string PictureAnswer(IcuLocale const & locale, LCTYPE query);
 // An ICU date pattern in the Windows notation: the year of four digits, "ddd" and "dddd" for names of days, "tt" for
 // the halves of a day, "gg" for the era, letters that stand for themselves in quotes, common blanks, no marks of
 // direction. u"EEEE, d 'de' MMMM y" is u"dddd, d 'de' MMMM yyyy".
-std::u16string WindowsPicture(std::u16string_view pattern);
+VELNLS_API std::u16string WindowsPicture(std::u16string_view pattern);
 
 // The number of a negative layout, LOCALE_INEGNUMBER or LOCALE_INEGCURR, of a negative amount as it is printed:
 // u"-$1.00" with the symbol u"$" is 1.
-int NegativeNumberLayout(std::u16string_view printed);
-int NegativeCurrencyLayout(std::u16string_view printed, std::u16string_view symbol);
+VELNLS_API int NegativeNumberLayout(std::u16string_view printed);
+VELNLS_API int NegativeCurrencyLayout(std::u16string_view printed, std::u16string_view symbol);
 // LOCALE_ICURRENCY of a positive amount as it is printed.
-int CurrencyLayout(std::u16string_view printed, std::u16string_view symbol);
+VELNLS_API int CurrencyLayout(std::u16string_view printed, std::u16string_view symbol);
 
 }  // namespace VelNLS::detail
