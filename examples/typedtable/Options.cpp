@@ -73,7 +73,8 @@ private:
         std::string const name = argument.substr(0, equals);
         if (equals != std::string::npos)
             m_attached = argument.substr(equals + 1);
-        if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name))
+        if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name) &&
+            !ReadListLocales(name))
             throw UserError("unknown option \"" + name + "\"; typedtable --help lists them");
         if (m_attached)
             throw UserError(name + " takes no value");
@@ -148,6 +149,16 @@ private:
         return true;
     }
 
+    // The pattern may be left out.
+    bool ReadListLocales(std::string const & name)
+    {
+        if (name != "--list-locales")
+            return false;
+        bool const isAlone = !m_attached && (m_next == m_arguments.size() || m_arguments[m_next].starts_with('-'));
+        SetOnce(m_locales, name, isAlone ? std::string() : TakeValue(name));
+        return true;
+    }
+
     // The text behind "=", else the next argument.
     std::string TakeValue(std::string const & option)
     {
@@ -180,6 +191,12 @@ private:
             if (m_file || m_options > 1)
                 throw UserError("--explain-collation stands alone");
             options.task = ExplainRequest{*m_explain};
+            return options;
+        }
+        if (m_locales) {
+            if (m_file || m_options > 1)
+                throw UserError("--list-locales stands alone");
+            options.task = LocalesRequest{*m_locales};
             return options;
         }
         if (!m_file)
@@ -274,6 +291,7 @@ private:
     std::optional<std::string> m_collation;
     std::optional<std::string> m_locale;
     std::optional<std::string> m_explain;
+    std::optional<std::string> m_locales;
     bool m_ignoreCase = false;
     bool m_ignoreAccents = false;
     bool m_wordSort = false;

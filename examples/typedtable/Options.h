@@ -10,6 +10,7 @@
 #include "typedtable/Distinct.h"
 #include "typedtable/GroupBy.h"
 #include "typedtable/Listing.h"
+#include "typedtable/LocaleList.h"
 #include "typedtable/RowFilter.h"
 #include "typedtable/Summary.h"
 
@@ -32,11 +33,11 @@ struct SchemaRequest
 struct Options
 {
     /// What the program does. The last four read the rows a second time.
-    using Task = std::variant<HelpRequest, ExplainRequest, SchemaRequest, ListingRequest, SummaryRequest,
-                              DistinctRequest, GroupByRequest>;
+    using Task = std::variant<HelpRequest, ExplainRequest, LocalesRequest, SchemaRequest, ListingRequest,
+                              SummaryRequest, DistinctRequest, GroupByRequest>;
 
     Task task;
-    std::string file;  // "-" is standard input; empty for the first two tasks
+    std::string file;  // "-" is standard input; empty for the first three tasks
     FilterRequest filter;
     CollationChoice collation;
     bool sqlNulls = false;

@@ -9,6 +9,7 @@ char const * const kUsage =
        typedtable FILE --distinct COLUMN [--sum|--mean|--min|--max COLUMN]... [--count]
        typedtable FILE --group-by COLUMN:PERIOD [--sum|--mean|--min|--max COLUMN]... [--count]
        typedtable --explain-collation NAME
+       typedtable --list-locales [PATTERN]
 
 Reads a CSV file (UTF-8, with a header), types its columns, and prints the columns with their types and counts of nulls,
 and the first rows. With more options it prints rows, sums, or groups instead. FILE may be - for standard input.
@@ -41,6 +42,9 @@ How texts are compared and searched
   --word-sort          with --locale: hyphens and apostrophes are ignored
   --explain-collation NAME
                        print what a collator name means, and some words in its order
+  --list-locales [PATTERN]
+                       print the locales that there are, with their names and short dates, or those whose name has a match
+                       of a regular expression, upper or lower case: --list-locales '^sv_|finland'
 
   --help               print this text
 

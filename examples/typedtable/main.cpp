@@ -85,6 +85,8 @@ void Run(std::vector<std::string> const & arguments)
         std::cout << kUsage;
     else if (auto const * const explain = std::get_if<ExplainRequest>(&options.task))
         ExplainCollation(std::cout, explain->collation);
+    else if (auto const * const locales = std::get_if<LocalesRequest>(&options.task))
+        PrintLocales(std::cout, *locales);
     else
         PrintFile(std::cout, options);
     if (!std::cout.flush())

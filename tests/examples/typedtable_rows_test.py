@@ -329,6 +329,32 @@ class Explain(Program):
                                    f"sample order, equal words on one line:{text}\n", "--explain-collation", name)
 
 
+class Locales(Program):
+    TITLES = ["lcid", "locale", "name", "short date"]
+
+    def test_all(self):
+        result = run("--list-locales")
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        *lines, count = result.stdout.decode().splitlines()
+        self.assertEqual(lines[0].split()[:3], self.TITLES[:3])
+        lcids = [int(line[:6], 16) for line in lines[1:]]
+        self.assertGreater(len(lcids), 150)
+        self.assertEqual(lcids, sorted(set(lcids)))
+        self.assertEqual(count, f"{len(lcids)} of {len(lcids)} locales")
+        self.total = len(lcids)
+
+    def test_patterns(self):
+        self.test_all()
+        swedish = [["0x041D", "sv_SE", "Swedish (Sweden)", "yyyy-MM-dd"],
+                   ["0x081D", "sv_FI", "Swedish (Finland)", "yyyy-MM-dd"]]
+        left = [False] * 4
+        for pattern, rows in (("swedish", swedish), ("^SV_", swedish), ("SWED.*land", swedish[1:]), ("no such", [])):
+            expected = print_table(self.TITLES, left, rows) + f"{len(rows)} of {self.total} locales\n"
+            with self.subTest(pattern=pattern):
+                self.assert_prints(expected, "--list-locales", pattern)
+                self.assert_prints(expected, "--list-locales=" + pattern)
+
+
 class Refusals(Program):
     def test_collations(self):
         for name in ("BINARY", "len_rus_s2", "FOO", "LEN_S9", "LEN_F", "S2", "L", "LXX", "L" + "X" * 300, "\u00e9"):
@@ -401,7 +427,12 @@ class Refusals(Program):
                 ([AIRPORTS, "--where", "name == 3"], f'--where: "= 3" {literal}'),
                 ([AIRPORTS, "--explain-collation", "LEN"], "--explain-collation stands alone"),
                 (["--explain-collation=LEN", "--count"], "--explain-collation stands alone"),
-                (["--explain-collation"], "--explain-collation needs a value")):
+                (["--explain-collation"], "--explain-collation needs a value"),
+                ([AIRPORTS, "--list-locales"], "--list-locales stands alone"),
+                (["--list-locales", "sv", AIRPORTS], "--list-locales stands alone"),
+                (["--list-locales", "--count"], "--list-locales stands alone"),
+                (["--list-locales=sv", "--list-locales"], "--list-locales is given twice"),
+                (["--list-locales", "("], '--list-locales: "(" is not a regular expression')):
             with self.subTest(arguments=arguments):
                 self.assert_refuses(error, *arguments)
 
