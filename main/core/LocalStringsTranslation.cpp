@@ -1,13 +1,24 @@
 #include "main/core/LocalStringsTranslation.h"
 
+#include <memory>
+
+#include <QtCore/QTranslator>
+
+#include "main/core/LocalStringTableCache.h"
+#include "main/core/SessionLanguage.h"
+#include "velcoredata/core/LanguageUtils.h"
+
 namespace CoreData::detail {
 
-// Answers as for a language without a translator: the English text. With the compiled-in translations this takes the
-// ISO string of the session's TLocale (the session object "locale"), asks that language's translator for the message
-// with the context `key` and the source text `english`, and gives what the translator gives.
-TString TranslateForSession(char const * /*key*/, char const * english)
+TString TranslateForSession(char const * key, char const * english)
 {
-    return TString::fromUtf8(english);
+    TString const language = SessionLanguage();
+    LocalStringTableCache & cache = LocalStringTableCache::GetInstance();
+    std::shared_ptr<QTranslator> translator = cache.GetTranslator(language);
+    bool const empty = translator == nullptr || translator->isEmpty();
+    if (empty && !language.startsWith(LanguageUtils::GetDefaultLanguage()))
+        translator = cache.GetTranslator(SessionLanguage());
+    return translator == nullptr ? TString() : TString(translator->translate(key, english, nullptr, -1));
 }
 
 }  // namespace CoreData::detail

@@ -10,4 +10,7 @@ namespace CoreData::detail {
 char const * StringTableKey(StringId id) noexcept;
 char const * StringTableEnglish(StringId id) noexcept;
 
+// The path of the generated source, for assertions.
+char const * StringTableFile() noexcept;
+
 }  // namespace CoreData::detail

@@ -198,6 +198,11 @@ char const * StringTableEnglish(StringId id) noexcept
 {
 %s}
 
+char const * StringTableFile() noexcept
+{
+    return __FILE__;
+}
+
 }  // namespace CoreData::detail
 """ % (table, tree(entries, lambda entry: entry.key), tree(entries, lambda entry: entry.english))
 

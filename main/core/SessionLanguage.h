@@ -1,0 +1,12 @@
+// The seam between resources and locales: resources lie below the rooms that know TLocale, so what they need of the
+// session's locale is this one declared function.
+#pragma once
+
+#include "velcoreplatform/TString.h"
+
+namespace CoreData::detail {
+
+// The ISO string of the language of the session object "locale"; empty if there is none. Called only inside a session.
+TString SessionLanguage();
+
+}  // namespace CoreData::detail
