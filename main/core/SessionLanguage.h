@@ -6,7 +6,8 @@
 
 namespace CoreData::detail {
 
-// The ISO string of the language of the session object "locale"; empty if there is none. Called only inside a session.
+// The ISO string of the language of the session object "locale", a std::shared_ptr<TLocale> or the ISO string itself;
+// empty if there is none. Called only inside a session.
 TString SessionLanguage();
 
 }  // namespace CoreData::detail

@@ -2,6 +2,8 @@
 
 #include <boost/any.hpp>
 
+#include "main/core/SessionLanguage.h"
+#include "velcoredata/core/TLocale.h"
 #include "velcoreplatform/CoreThreadContext.h"
 
 namespace CoreData::detail {
@@ -10,6 +12,17 @@ std::shared_ptr<TLocale> FindSessionLocale(char16_t const * key)
 {
     std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericObject(TString(key));
     return object == nullptr || object->empty() ? nullptr : boost::any_cast<std::shared_ptr<TLocale>>(*object);
+}
+
+TString SessionLanguage()
+{
+    std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericObject(TString(u"locale"));
+    // Texts do not raise: what is no locale says no language.
+    if (auto const * const locale = boost::any_cast<std::shared_ptr<TLocale>>(object.get()))
+        return *locale == nullptr ? TString() : (*locale)->getLanguageCode().GetISOString();
+    // A host that knows no more than the language puts its ISO string there.
+    TString const * const language = boost::any_cast<TString>(object.get());
+    return language == nullptr ? TString() : *language;
 }
 
 }  // namespace CoreData::detail
