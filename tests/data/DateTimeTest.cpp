@@ -340,10 +340,20 @@ TEST(DateTime, IsoQuartersHaveAFirstAndALastWeek)
     EXPECT_EQ(DateTime::LastISO8601Week(2015, 4), 53);
     EXPECT_EQ(DateTime::LastISO8601Week(2014, -1), 52);
     EXPECT_EQ(DateTime::LastISO8601Week(-1, -1), 53);
-    for (auto const week : {&DateTime::FirstISO8601Week, &DateTime::LastISO8601Week}) {
-        EXPECT_THAT([&] { week(-2, 1); }, ThrowsAssert("isoYear >= 0"));
+    struct
+    {
+        int (*week)(int, int);
+        char const * badYear;
+        char const * badQuarter;
+    } const cases[] = {
+        {&DateTime::FirstISO8601Week, "LogicException_LogicAssert_0x6B1D0A41", "LogicException_LogicAssert_0x6B1D0A42"},
+        {&DateTime::LastISO8601Week, "LogicException_LogicAssert_0x6B1D0A43", "LogicException_LogicAssert_0x6B1D0A44"},
+    };
+    for (auto const & c : cases) {
+        EXPECT_THAT([&] { c.week(-2, 1); }, ThrowsAssert("isoYear >= 0", c.badYear));
         for (int quarter : {-2, 0, 5})
-            EXPECT_THAT([&] { week(2015, quarter); }, ThrowsAssert("1 <= isoQuarter && isoQuarter <= 4"));
+            EXPECT_THAT([&] { c.week(2015, quarter); },
+                        ThrowsAssert("1 <= isoQuarter && isoQuarter <= 4", c.badQuarter));
     }
 }
 
