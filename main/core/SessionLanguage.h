@@ -6,8 +6,8 @@
 
 namespace CoreData::detail {
 
-// The ISO string of the language of the session object "locale", a std::shared_ptr<TLocale> or the ISO string itself;
-// empty if there is none. Called only inside a session.
+// The ISO string of the language of the session object "locale", a std::shared_ptr<TLocale>; empty if there is none or
+// an object of another type. Called only inside a session.
 TString SessionLanguage();
 
 }  // namespace CoreData::detail

@@ -18,11 +18,8 @@ TString SessionLanguage()
 {
     std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericObject(TString(u"locale"));
     // Texts do not raise: what is no locale says no language.
-    if (auto const * const locale = boost::any_cast<std::shared_ptr<TLocale>>(object.get()))
-        return *locale == nullptr ? TString() : (*locale)->getLanguageCode().GetISOString();
-    // A host that knows no more than the language puts its ISO string there.
-    TString const * const language = boost::any_cast<TString>(object.get());
-    return language == nullptr ? TString() : *language;
+    auto const * const locale = boost::any_cast<std::shared_ptr<TLocale>>(object.get());
+    return locale == nullptr || *locale == nullptr ? TString() : (*locale)->getLanguageCode().GetISOString();
 }
 
 }  // namespace CoreData::detail

@@ -35,6 +35,7 @@ TEST(SessionLanguage, TextsAreEnglishWithoutALocale)
     EXPECT_EQ(YearIn(std::shared_ptr<TLocale>()), TString(u"Year"));
     EXPECT_EQ(YearIn(boost::any()), TString(u"Year"));
     EXPECT_EQ(YearIn(5), TString(u"Year"));
+    EXPECT_EQ(YearIn(TString(u"de_DE")), TString(u"Year"));
     ScopedSession const session;
     EXPECT_EQ(CoreData::LookupTStrExported(CoreData::StringId::IDS_AGG_YEAR), TString(u"Year"));
 }
