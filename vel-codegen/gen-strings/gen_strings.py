@@ -13,6 +13,9 @@ import re
 import sys
 import zlib
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir))
+from tables import generate, literal, read_rows  # noqa: E402
+
 COLUMNS = ("key", "id", "english")
 KEY = re.compile(r"ID[SP](_[A-Z0-9]+)+")
 FIXED_ID = re.compile(r"0x[0-9A-F]{8}")
@@ -65,8 +68,6 @@ def check_places(english):
 
 def parse_row(columns):
     """(key, fixed number or None, English text) of one row, or ValueError with the reason."""
-    if len(columns) != len(COLUMNS):
-        raise ValueError("expected %d columns (%s), found %d" % (len(COLUMNS), ", ".join(COLUMNS), len(columns)))
     key, number, quoted = columns
     if not KEY.fullmatch(key):
         raise ValueError("'%s' is not a key: IDS_ or IDP_ and upper-case words joined with '_'" % key)
@@ -81,25 +82,10 @@ def parse_row(columns):
 
 def read_table(path):
     """(entries in the order of the table, faults as (line, text)); lines count from 1."""
-    with open(path, "rb") as file:
-        lines = file.read().split(b"\n")
-    entries, faults = [], []
+    rows, faults = read_rows(path, COLUMNS)
+    entries = []
     line_of_key, entry_of_number = {}, {}
-    header_seen = False
-    for line, raw in enumerate(lines, 1):
-        try:
-            text = raw.decode("utf-8").rstrip("\r")
-        except UnicodeDecodeError as error:
-            faults.append((line, "not UTF-8: byte 0x%02X at column %d" % (raw[error.start], error.start + 1)))
-            continue
-        if not text.strip() or text.startswith("#"):
-            continue
-        columns = text.split("\t")
-        if not header_seen:
-            header_seen = True
-            if tuple(columns) != COLUMNS:
-                faults.append((line, "expected the header line '%s'" % "<tab>".join(COLUMNS)))
-            continue
+    for line, columns in rows:
         try:
             key, number, english = parse_row(columns)
         except ValueError as error:
@@ -119,25 +105,7 @@ def read_table(path):
                            % (entry.number, key, other.key, other.line)))
             continue
         entries.append(entry)
-    if not header_seen:
-        faults.append((len(lines), "expected the header line '%s'" % "<tab>".join(COLUMNS)))
-    elif not entries and not faults:
-        faults.append((len(lines), "the table has no keys"))
     return entries, faults
-
-
-def literal(text):
-    """A C++ narrow literal of the text's UTF-8 bytes; three-digit octal escapes never run into what follows."""
-    out = []
-    for byte in text.encode("utf-8"):
-        char = chr(byte)
-        if char in '"\\':
-            out.append("\\" + char)
-        elif 0x20 <= byte < 0x7F:
-            out.append(char)
-        else:
-            out.append("\\%03o" % byte)
-    return '"' + "".join(out) + '"'
 
 
 def comment(text):
@@ -207,34 +175,13 @@ char const * StringTableFile() noexcept
 """ % (table, tree(entries, lambda entry: entry.key), tree(entries, lambda entry: entry.english))
 
 
-def write(path, text):
-    """Puts the whole file in place at once, so that an interrupted build leaves no half of it."""
-    os.makedirs(os.path.dirname(path) or ".", exist_ok=True)
-    temporary = path + ".new"
-    with open(temporary, "w", encoding="utf-8", newline="\n") as file:
-        file.write(text)
-    os.replace(temporary, path)
-
-
 def main(arguments):
     parser = argparse.ArgumentParser(description="Generates the string table of the library.")
     parser.add_argument("table")
     parser.add_argument("--header", required=True, help="the public header StringIds.h")
     parser.add_argument("--source", required=True, help="the source StringTable.cpp")
     options = parser.parse_args(arguments)
-    try:
-        entries, faults = read_table(options.table)
-    except OSError as error:
-        print("%s:1: error: %s" % (options.table, error.strerror), file=sys.stderr)
-        return 1
-    if faults:
-        for line, text in faults:
-            print("%s:%d: error: %s" % (options.table, line, text), file=sys.stderr)
-        return 1
-    table = os.path.basename(options.table)
-    write(options.header, header_text(entries, table))
-    write(options.source, source_text(entries, table))
-    return 0
+    return generate(options.table, read_table, ((options.header, header_text), (options.source, source_text)))
 
 
 if __name__ == "__main__":

@@ -3,52 +3,21 @@
 
 import os
 import re
-import subprocess
 import sys
-import tempfile
 import unittest
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir))
+from generator_testing import GeneratorTest  # noqa: E402
+
 HERE = os.path.dirname(os.path.abspath(__file__))
-GENERATOR = os.path.join(HERE, "gen_strings.py")
 HEAD = b"key\tid\tenglish\n"
 
 
-class GeneratorTest(unittest.TestCase):
-    def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
-        self.table = os.path.join(self.folder.name, "texts.tsv")
-        self.header = os.path.join(self.folder.name, "out", "StringIds.h")
-        self.source = os.path.join(self.folder.name, "out", "StringTable.cpp")
-
-    def run_generator(self, content, table=None):
-        if content is not None:
-            with open(self.table, "wb") as file:
-                file.write(content)
-        return subprocess.run(
-            [sys.executable, "-B", GENERATOR, table or self.table, "--header", self.header, "--source", self.source],
-            capture_output=True, check=False)
-
-    def generate(self, content):
-        result = self.run_generator(content)
-        self.assertEqual((result.returncode, result.stderr), (0, b""))
-        with open(self.header, encoding="utf-8") as header, open(self.source, encoding="ascii") as source:
-            return header.read(), source.read()
-
-    def assert_refused(self, content, *faults):
-        """Each fault is (line, part of its text); these are all faults, in this order, and nothing is written."""
-        result = self.run_generator(content)
-        lines = result.stderr.decode("utf-8").splitlines()
-        self.assertEqual(result.returncode, 1)
-        self.assertEqual(len(lines), len(faults), lines)
-        for got, (line, text) in zip(lines, faults):
-            self.assertTrue(got.startswith("%s:%d: error: " % (self.table, line)), got)
-            self.assertIn(text, got)
-        self.assertFalse(os.path.exists(self.header))
-        self.assertFalse(os.path.exists(self.source))
+class StringsTest(GeneratorTest):
+    generator = os.path.join(HERE, "gen_strings.py")
 
 
-class GoodTables(GeneratorTest):
+class GoodTables(StringsTest):
     def test_fixed_id_is_kept_and_other_id_is_crc32_of_the_key(self):
         header, _ = self.generate(HEAD + b'IDS_A\t0x12C45CA4\t"Automatic"\nIDS_AGG_DAY\t\t"Day"\n')
         self.assertIn("IDS_A = 0x12C45CA4,", header)
@@ -93,7 +62,7 @@ class GoodTables(GeneratorTest):
         self.assertEqual((result.returncode, result.stderr), (0, b""))
 
 
-class BadTables(GeneratorTest):
+class BadTables(StringsTest):
     def test_duplicate_key(self):
         self.assert_refused(HEAD + b'IDS_A\t\t"a"\nIDS_B\t\t"b"\nIDS_A\t\t"c"\n',
                             (4, "duplicate key IDS_A, first on line 2"))
@@ -122,7 +91,7 @@ class BadTables(GeneratorTest):
         self.assert_refused(b"\xef\xbb\xbf" + HEAD, (1, "expected the header line"))
 
     def test_table_without_keys(self):
-        self.assert_refused(HEAD, (2, "no keys"))
+        self.assert_refused(HEAD, (2, "no rows"))
 
     def test_bytes_that_are_not_utf8(self):
         self.assert_refused(HEAD + b'IDS_A\t\t"a"\nIDS_B\t\t"caf\xe9"\n', (3, "not UTF-8: byte 0xE9 at column 12"))

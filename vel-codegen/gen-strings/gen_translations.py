@@ -15,7 +15,8 @@ import sys
 import xml.etree.ElementTree as ElementTree
 from xml.sax.saxutils import escape
 
-from gen_strings import PLACE, read_table, write
+from gen_strings import PLACE, read_table
+from tables import write  # gen_strings tells where
 
 # Letters that still read as themselves, so that an untranslated text stands out and a cut one shows.
 ACCENTED = str.maketrans("AaBbCcDdEeFfGgHhIiJjKkLlMmNnOoPpQqRrSsTtUuVvWwXxYyZz",
