@@ -8,8 +8,11 @@
 #include "velcoreplatform/TLog.h"
 #include "velsys/NoDestructor.h"
 
-struct Session::Store
+struct detail::SessionStore
 {
+    // Null outside a session.
+    static SessionStore * OfThisThread() noexcept;
+
     std::shared_ptr<boost::any> Find(TString const & key) const
     {
         auto const found = objects.find(key);
@@ -43,38 +46,47 @@ void WarnOutsideSession(TString const & key)
 
 }  // namespace
 
+detail::SessionStore * detail::SessionStore::OfThisThread() noexcept
+{
+    return t_current == nullptr ? nullptr : t_current->m_store.get();
+}
+
 std::function<bool()> & CoreThreadContext::HasSessionId = SessionTest();
 std::function<void()> & ICrashNow = CrashHook();
 
 std::shared_ptr<boost::any> CoreThreadContext::GetGenericObject(TString const & key)
 {
-    if (t_current == nullptr)
+    auto * const store = detail::SessionStore::OfThisThread();
+    if (store == nullptr)
         return nullptr;
-    std::lock_guard const lock(t_current->m_store->mutex);
-    return t_current->m_store->Find(key);
+    std::lock_guard const lock(store->mutex);
+    return store->Find(key);
 }
 
 void CoreThreadContext::SetGenericObject(TString const & key, std::shared_ptr<boost::any> object)
 {
-    if (t_current == nullptr)
+    auto * const store = detail::SessionStore::OfThisThread();
+    if (store == nullptr)
         return WarnOutsideSession(key);
-    std::lock_guard const lock(t_current->m_store->mutex);
-    t_current->m_store->objects[key] = std::move(object);
+    std::lock_guard const lock(store->mutex);
+    store->objects[key] = std::move(object);
 }
 
 std::shared_ptr<boost::any> CoreThreadContext::GetGenericUnsynchronizedObject(TString const & key)
 {
-    return t_current == nullptr ? nullptr : t_current->m_store->Find(key);
+    auto const * const store = detail::SessionStore::OfThisThread();
+    return store == nullptr ? nullptr : store->Find(key);
 }
 
 void CoreThreadContext::SetGenericUnsynchronizedObject(TString const & key, std::shared_ptr<boost::any> object)
 {
-    if (t_current == nullptr)
+    auto * const store = detail::SessionStore::OfThisThread();
+    if (store == nullptr)
         return WarnOutsideSession(key);
-    t_current->m_store->objects[key] = std::move(object);
+    store->objects[key] = std::move(object);
 }
 
-Session::Session() : m_store(std::make_unique<Store>()) {}
+Session::Session() : m_store(std::make_unique<detail::SessionStore>()) {}
 
 Session::~Session() = default;
 

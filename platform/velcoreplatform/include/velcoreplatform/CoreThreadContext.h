@@ -11,22 +11,27 @@
 #include "velcoreplatform/Export.h"
 #include "velcoreplatform/TString.h"
 
-class VELCOREPLATFORM_API CoreThreadContext
-{
-public:
-    // The named object of the current session, null if none or outside a session. Any thread; synchronises by itself.
-    static std::shared_ptr<boost::any> GetGenericObject(TString const & key);
-    static void SetGenericObject(TString const & key, std::shared_ptr<boost::any> object);
+// A namespace, so that a higher layer can add the accessors of its own objects.
+namespace CoreThreadContext {
 
-    // The same store without synchronisation, for a session that only the calling thread works for. Outside a session
-    // setting logs a warning and keeps nothing.
-    static std::shared_ptr<boost::any> GetGenericUnsynchronizedObject(TString const & key);
-    static void SetGenericUnsynchronizedObject(TString const & key, std::shared_ptr<boost::any> object);
+// The named object of the current session, null if none or outside a session. Any thread; synchronises by itself.
+VELCOREPLATFORM_API std::shared_ptr<boost::any> GetGenericObject(TString const & key);
+VELCOREPLATFORM_API void SetGenericObject(TString const & key, std::shared_ptr<boost::any> object);
 
-    // Says if the calling thread runs in a session. Asked before session objects are looked for; an empty function is a
-    // fault (std::bad_function_call). The default answers by ScopedSession. Set it before other threads start.
-    static std::function<bool()> & HasSessionId;
-};
+// The same store without synchronisation, for a session that only the calling thread works for. Outside a session
+// setting logs a warning and keeps nothing.
+VELCOREPLATFORM_API std::shared_ptr<boost::any> GetGenericUnsynchronizedObject(TString const & key);
+VELCOREPLATFORM_API void SetGenericUnsynchronizedObject(TString const & key, std::shared_ptr<boost::any> object);
+
+// Says if the calling thread runs in a session. Asked before session objects are looked for; an empty function is a
+// fault (std::bad_function_call). The default answers by ScopedSession. Set it before other threads start.
+VELCOREPLATFORM_API extern std::function<bool()> & HasSessionId;
+
+}  // namespace CoreThreadContext
+
+namespace detail {
+struct SessionStore;
+}
 
 // The objects of one session. Made by a host, entered on any number of threads.
 class VELCOREPLATFORM_API Session
@@ -38,9 +43,8 @@ public:
     Session & operator=(Session const &) = delete;
 
 private:
-    friend class CoreThreadContext;
-    struct Store;
-    std::unique_ptr<Store> m_store;
+    friend struct detail::SessionStore;
+    std::unique_ptr<detail::SessionStore> m_store;
 };
 
 // Enters a session on the calling thread for the object's lifetime; the session before comes back at the end. Scopes
