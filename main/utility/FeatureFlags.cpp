@@ -1,0 +1,78 @@
+#include "velcoredata/utility/FeatureFlags.h"
+
+#include <utility>
+
+#include <boost/any.hpp>
+
+#include "velcoredata/utility/FeatureCatalogue.h"
+#include "velcoreplatform/CoreThreadContext.h"
+#include "velsys/NoDestructor.h"
+#include "velsys/ThrowSite.h"
+
+namespace {
+
+TString const & SessionKey()
+{
+    static detail::NoDestructor<TString> s_key(u"fflags-ctx");
+    return *s_key;
+}
+
+}  // namespace
+
+FeatureFlags::FeatureFlags() : m_enabled(GetDefaultEnabledFeatureIds().begin(), GetDefaultEnabledFeatureIds().end()) {}
+
+FeatureFlags::FeatureFlags(FeatureFlags const &) = default;
+FeatureFlags::FeatureFlags(FeatureFlags &&) noexcept = default;
+FeatureFlags & FeatureFlags::operator=(FeatureFlags const &) = default;
+FeatureFlags & FeatureFlags::operator=(FeatureFlags &&) noexcept = default;
+FeatureFlags::~FeatureFlags() = default;
+
+bool FeatureFlags::operator==(FeatureFlags const & other) const
+{
+    return m_enabled == other.m_enabled;
+}
+
+void FeatureFlags::Enable(FeatureFlagId id)
+{
+    m_enabled.insert(id);
+}
+
+void FeatureFlags::Disable(FeatureFlagId id)
+{
+    m_enabled.erase(id);
+}
+
+void FeatureFlags::Clear()
+{
+    m_enabled.clear();
+}
+
+bool FeatureFlags::IsOn(FeatureFlagId id)
+{
+    return Get().m_enabled.count(id) != 0;
+}
+
+std::unordered_set<FeatureFlagId> FeatureFlags::GetEnabled()
+{
+    return Get().m_enabled;
+}
+
+FeatureFlags & FeatureFlags::GetMutable()
+{
+    std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericUnsynchronizedObject(SessionKey());
+    if (auto * const flags = boost::any_cast<FeatureFlags>(object.get()))
+        return *flags;
+    static detail::NoDestructor<FeatureFlags> s_flags;
+    return *s_flags;
+}
+
+FeatureFlags const & FeatureFlags::Get()
+{
+    return GetMutable();
+}
+
+void CoreThreadContext::SetSessionFeatureFlags(std::unique_ptr<FeatureFlags> flags)
+{
+    VELTRIA_ASSERT(flags != nullptr, 0x7A1C40E7);
+    SetGenericUnsynchronizedObject(SessionKey(), std::make_shared<boost::any>(std::move(*flags)));
+}
