@@ -68,8 +68,11 @@ void CoreThreadContext::SetGenericObject(TString const & key, std::shared_ptr<bo
     auto * const store = detail::SessionStore::OfThisThread();
     if (store == nullptr)
         return WarnOutsideSession(key);
-    std::lock_guard const lock(store->mutex);
-    store->objects[key] = std::move(object);
+    {
+        std::lock_guard const lock(store->mutex);
+        store->objects[key].swap(object);
+    }
+    // The object before goes without the lock: its destructor may ask for others.
 }
 
 std::shared_ptr<boost::any> CoreThreadContext::GetGenericUnsynchronizedObject(TString const & key)

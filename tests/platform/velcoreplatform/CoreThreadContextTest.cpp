@@ -68,6 +68,26 @@ TEST(CoreThreadContext, KeepsNamedObjectsOfTheSession)
     EXPECT_EQ(CoreThreadContext::GetGenericObject(u"a"), nullptr);
 }
 
+// Asks the session for an object when it goes.
+struct AsksAtTheEnd
+{
+    explicit AsksAtTheEnd(int & answer) : answer(&answer) {}
+    ~AsksAtTheEnd() { *answer = Unbox(CoreThreadContext::GetGenericObject(u"other")); }
+    AsksAtTheEnd(AsksAtTheEnd const &) = delete;
+    AsksAtTheEnd & operator=(AsksAtTheEnd const &) = delete;
+    int * answer;
+};
+
+TEST(CoreThreadContext, AnObjectThatIsReplacedMayAskForOthers)
+{
+    ScopedSession const session;
+    CoreThreadContext::SetGenericObject(u"other", Box(7));
+    int answer = 0;
+    CoreThreadContext::SetGenericObject(u"a", std::make_shared<boost::any>(std::make_shared<AsksAtTheEnd>(answer)));
+    CoreThreadContext::SetGenericObject(u"a", Box(1));
+    EXPECT_EQ(answer, 7);
+}
+
 TEST(ScopedSession, SessionsNestAndTheOneBeforeComesBack)
 {
     ScopedSession const outer;
