@@ -17,6 +17,8 @@ namespace {
 // data (length, bytes). Node 0 is the root; the children of a directory are neighbours.
 constexpr std::uint32_t magic = 0x71726573;  // "qres"
 constexpr std::uint32_t directoryFlag = 2;
+// As file systems have it. Nodes may share a name: the limit keeps the time of all checks linear.
+constexpr std::uint32_t longestName = 255;
 
 class Archive
 {
@@ -66,11 +68,21 @@ private:
                m_bytes.Has(data + 4, *length);
     }
 
+    // One step of a path: an empty one, "." and ".." would lead back, and one with a slash two steps at once.
     bool IsSoundName(std::uint32_t offset) const
     {
         std::size_t const at = m_names + std::size_t{offset};
         auto const units = m_bytes.U16(at);
-        return units && m_bytes.Has(at + 6, 2 * std::size_t{*units});
+        if (!units || *units == 0 || *units > longestName || !m_bytes.Has(at + 6, 2 * std::size_t{*units}))
+            return false;
+        bool onlyDots = true;
+        for (std::size_t unit = 0; unit < *units; ++unit) {
+            auto const code = *m_bytes.U16(at + 6 + 2 * unit);
+            if (code == '/')
+                return false;
+            onlyDots = onlyDots && code == '.';
+        }
+        return !onlyDots || *units > 2;
     }
 
     // A node that is reached twice is a circle or a shared branch: neither is a tree.
