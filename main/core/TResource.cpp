@@ -7,7 +7,10 @@
 
 #include "velcoredata/core/ResourceRegistrationCache.h"
 
-TResource::TResource(TString const & path) : m_resource(std::make_unique<QResource>(path.toQString(), QLocale())) {}
+// Qt takes the empty path for the root of all resources.
+TResource::TResource(TString const & path)
+    : m_resource(path.isEmpty() ? nullptr : std::make_unique<QResource>(path.toQString(), QLocale()))
+{}
 
 TResource::TResource(TString const & relativePath, TString const & language)
     : TResource(ResourceRegistrationCache::GetInstance().GetResourcePath(relativePath, language))

@@ -14,7 +14,7 @@ class QResource;
 class VELCOREDATA_API TResource
 {
 public:
-    /// By Qt path: TResource(u":/de_DE/TQRC_VELSTRINGS").
+    /// By Qt path: TResource(u":/de_DE/TQRC_VELSTRINGS"). The empty path is no resource.
     explicit TResource(TString const & path);
     /// By the path inside an archive, which ResourceRegistrationCache::GetResourcePath resolves for the language.
     TResource(TString const & relativePath, TString const & language);
