@@ -21,14 +21,17 @@ bool Load(QTranslator & translator, TString const & language)
 
 }  // namespace
 
+LocalStringTableCache & detail::LocalStringTableCacheIn(void ** slot, boost::any * (*create)(void *))
+{
+    return InstanceOf<LocalStringTableCache>(
+        slot, create, {StringTableFile(), __LINE__, 0x5C1E7B92, u"LogicException_LogicAssert_0x5C1E7B92"});
+}
+
 LocalStringTableCache & LocalStringTableCache::GetInstance()
 {
-    using Holder = std::shared_ptr<LocalStringTableCache>;
     static void * s_instance = nullptr;
-    return detail::InstanceOf<LocalStringTableCache>(
-        &s_instance, [](void *) { return new boost::any(std::make_shared<LocalStringTableCache>()); },
-        [](boost::any * made) -> void * { return boost::any_cast<Holder &>(*made).get(); },
-        {detail::StringTableFile(), __LINE__, 0x5C1E7B92, u"LogicException_LogicAssert_0x5C1E7B92"});
+    return detail::LocalStringTableCacheIn(
+        &s_instance, [](void *) { return new boost::any(std::make_shared<LocalStringTableCache>()); });
 }
 
 LocalStringTableCache::LocalStringTableCache() : m_mutex(0) {}

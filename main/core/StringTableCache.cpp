@@ -21,14 +21,17 @@ QTranslatorInfo::QTranslatorInfo(QTranslatorInfo &&) noexcept = default;
 QTranslatorInfo & QTranslatorInfo::operator=(QTranslatorInfo &&) noexcept = default;
 QTranslatorInfo::~QTranslatorInfo() = default;
 
+StringTableCache & CoreData::detail::StringTableCacheIn(void ** slot, boost::any * (*create)(void *))
+{
+    return InstanceOf<StringTableCache>(slot, create,
+                                        {__FILE__, __LINE__, 0xD9D457CD, u"LogicException_LogicAssert_0xD9D457CD"});
+}
+
 StringTableCache & StringTableCache::GetInstance()
 {
-    using Holder = std::shared_ptr<StringTableCache>;
     static void * s_instance = nullptr;
-    return CoreData::detail::InstanceOf<StringTableCache>(
-        &s_instance, [](void *) { return new boost::any(std::make_shared<StringTableCache>()); },
-        [](boost::any * made) -> void * { return boost::any_cast<Holder &>(*made).get(); },
-        {__FILE__, __LINE__, 0xD9D457CD, u"LogicException_LogicAssert_0xD9D457CD"});
+    return CoreData::detail::StringTableCacheIn(
+        &s_instance, [](void *) { return new boost::any(std::make_shared<StringTableCache>()); });
 }
 
 StringTableCache::StringTableCache() : m_mutex(0) {}
@@ -48,8 +51,7 @@ QTranslator * StringTableCache::GetTranslator(TString const & language)
     return info.translator.get();
 }
 
-bool StringTableCache::LoadTranslatorInfo(TString const & /*rccName*/, TString const & language,
-                                          QTranslatorInfo & info)
+bool StringTableCache::LoadTranslatorInfo(TString const & /*rccName*/, TString const & language, QTranslatorInfo & info)
 {
     TResource const resource(TString(detail::translationResource), language);
     if (!resource.isValid())
