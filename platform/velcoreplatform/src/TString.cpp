@@ -10,6 +10,8 @@
 #include <QtCore/QStringEncoder>
 #include <QtCore/QStringList>
 
+#include "velcoreplatform/RealText.h"
+
 namespace {
 
 Qt::CaseSensitivity ToQt(TString::CaseSensitivity cs)
@@ -47,6 +49,15 @@ TString FormatInteger(Integer value, int fieldWidth, int base, char16_t fill)
     if (fieldWidth > 0)
         return text.rightJustified(fieldWidth, QChar(fill));
     return fieldWidth < 0 ? text.leftJustified(-fieldWidth, QChar(fill)) : text;
+}
+
+TString GeneralText(double value, int precision, bool stripPoint)
+{
+    char16_t text[detail::kLongestRealText + 1];
+    char16_t * end = detail::WriteReal(text, value, precision);
+    if (!stripPoint && std::all_of(text, end, [](char16_t c) { return c == u'-' || (c >= u'0' && c <= u'9'); }))
+        *end++ = u'.';
+    return TString(text, Narrow(end - text));
 }
 
 // QString::fromUtf8 drops a leading U+FEFF; a text keeps every character that it has.
@@ -132,6 +143,8 @@ TString TString::number(unsigned long long value, int fieldWidth, int base, char
 
 TString TString::number(double value, char format, int precision, bool stripPoint)
 {
+    if (format == 'g' && precision >= 1 && precision <= 17)
+        return GeneralText(value, precision, stripPoint);
     QString text = QString::number(value, format, precision);
     // Qt drops the sign of zero, and with it a bit of the number.
     if (value == 0.0 && std::signbit(value) && !text.startsWith(u'-'))
