@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
+#include <string>
 
 #include "tests/data/NameSamples.h"
+#include "tests/support/QualifiedNameModel.h"
 #include "velcoredata/data/QualifiedName.h"
 #include "velcoredata/data/QualifiedNameException.h"
 
@@ -60,6 +63,31 @@ TEST(QualifiedNameLaws, TheParsingOperationsAgree)
     }
     EXPECT_GT(good, draws / 20);
     EXPECT_LT(good, draws - draws / 20);
+}
+
+// Components and errors are those of a reader that goes by one code unit at a time.
+TEST(QualifiedNameLaws, ParsingAgreesWithTheModel)
+{
+    RandomNames random(120);
+    std::map<std::string, int> outcomes;
+    for (int i = 0; i < 10 * draws; ++i) {
+        TString const text = i % 8 == 0 ? random.Text() : random.BrokenText();
+        auto const model = test_support::ReadQualifiedName(TString(text).trim().View());
+        ++outcomes[model.error];
+        try {
+            QualifiedName const name = QualifiedName::ParseGlobal(text);
+            ASSERT_EQ(model.error, "") << text;
+            ASSERT_EQ(name.GetNumberOfComponents(), model.components.size()) << text;
+            for (std::size_t c = 0; c < model.components.size(); ++c)
+                ASSERT_EQ(name.GetComponent(c).View(), model.components[c]) << text;
+        } catch (QualifiedNameException const & e) {
+            std::string const error = e.GetErrorInfo().GetError().GetName().toQString().toStdString();
+            ASSERT_EQ(error, "VeltriaException_QualifiedNameParseException_0x" + model.error) << text;
+        }
+    }
+    ASSERT_EQ(outcomes.size(), 7u) << "success and each of the six errors";
+    for (auto const & [error, count] : outcomes)
+        EXPECT_GT(count, draws / 100) << error;
 }
 
 // length(GetFullValue()) = sum of lengths + count of "]" + 3n - 1; equal names have equal hashes; copies share the text
