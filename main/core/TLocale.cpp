@@ -92,26 +92,6 @@ TLocale::DateFormatCache TLocale::CloneICUDateFormatCache() const
     return clones;
 }
 
-VelICU_V2::ICUDateFormat const & TLocale::GetICUDateFormat(char16_t const * pattern) const
-{
-    TString const key(pattern);
-    {
-        ScopedReadLock const lock(m_dateFormatCacheLock);
-        auto const found = m_dateFormatCache.find(key);
-        if (found != m_dateFormatCache.end())
-            return *found->second;
-    }
-    ScopedWriteLock const lock(m_dateFormatCacheLock);
-    auto const found = m_dateFormatCache.find(key);
-    if (found != m_dateFormatCache.end())
-        return *found->second;
-    VelICU::ICUErrorCode success = VelICU::U_ZERO_ERROR;
-    std::unique_ptr<VelICU_V2::ICUDateFormat> format =
-        VelICU_V2::ICUSimpleDateFormat::createInstance(key, *m_icuLocale, success);
-    VELTRIA_ASSERT(VelICU::ICU_SUCCESS(success), 0x75D2209A);
-    return *m_dateFormatCache.emplace(key, std::move(format)).first->second;
-}
-
 TLocale const & TLocale::GetISODefaultLocale()
 {
     static detail::NoDestructor<TLocale> s_locale(LanguageUtils::GetDefaultISOString());

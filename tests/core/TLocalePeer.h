@@ -31,6 +31,17 @@ struct TLocalePeer
         return locale.m_calendar != nullptr || locale.m_formatterCache != nullptr || locale.m_parseCount != 0 ||
                locale.m_lastParseNative;
     }
+    static std::int32_t CountReadings(TLocale const & locale) { return locale.m_parseCount; }
+    static void SetReadings(TLocale const & locale, std::int32_t count) { locale.m_parseCount = count; }
+    static bool ReadNativeLast(TLocale const & locale) { return locale.m_lastParseNative; }
+    static void SetReadNativeLast(TLocale const & locale, bool native) { locale.m_lastParseNative = native; }
+    static void const * GetCalendar(TLocale const & locale) { return locale.m_calendar.get(); }
+    // The pattern that the next search tries first; empty before the first reading.
+    static TString GetPattern(TLocale const & locale)
+    {
+        auto const & formatter = locale.GetFormatterCache();
+        return formatter == nullptr ? TString() : formatter->GetICUDateFormatter().toPattern();
+    }
     static bool ParsesNative(TLocale const & locale) { return locale.m_parseNative; }
     static bool CachesFormatter(TLocale const & locale) { return locale.m_cacheFormatter; }
 };

@@ -1,11 +1,14 @@
 // TLocale: the locale object, the catalogue of locales and what the system knows of each.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
+#include "velcoredata/core/DateTimeParseOptions.h"
 #include "velcoredata/core/Export.h"
 #include "velcoredata/core/LanguageCode.h"
 #include "velcoredata/core/MeasureSystem.h"
@@ -15,8 +18,12 @@
 #include "velcoreplatform/TString.h"
 #include "velsys/Lcid.h"
 
+class DateTime;
+class Interval;
 class LocaleFormatter;
 class QLocale;
+class Time;
+enum class DateTimeFormatCodes : std::int32_t;
 struct NumberFormatOptions;
 
 namespace VelICU_V2 {
@@ -68,6 +75,73 @@ public:
     std::unique_ptr<LocaleFormatter const> const & GetFormatterCache() const { return m_formatterCache; }
     /// Takes the formatter over and leaves null in the argument. Given the object's own, it does nothing.
     void SetFormatterCache(std::unique_ptr<LocaleFormatter const> & formatter);
+
+    // Dates and times to text, in the locale's names and digits. The calendar is the Gregorian one, a calendar that the
+    // locale was made with notwithstanding; it is that of reading only.
+
+    /// By a pattern in ICU's letters, whose format is kept for the object's lifetime: "d. MMMM yyyy" is "2. Januar
+    /// 2020" in de_DE. Milliseconds are those of DateTime::GetMilliseconds, truncated from ticks. Logic assertions with
+    /// "VelICU::ICU_SUCCESS(success)" if ICU has no format (LogicException_LogicAssert_0x75D2209A) or no calendar
+    /// (LogicException_LogicAssert_0x0F8E9B42) to give.
+    TString Format(DateTime const & value, char16_t const * pattern) const;
+    /// In the platform's own style of the locale, "1/2/2020 3:04:05 AM": the date, the time, or both. "Invalid
+    /// DateTime" for a value that the platform does not print.
+    TString Format(DateTime const & value, DateTimeParseOptions options) const;
+    /// "7:5:9.0": hour, minute, second and microsecond without padding, the same in every locale.
+    TString Format(Time const & time) const;
+    /// "1 day 2 hour 3 minute 4 second 5 microsecond", the same in every locale. Each part has the interval's sign.
+    TString Format(Interval const & interval) const;
+
+    // Text to dates and times. The result is success; `out` is written on success only. Bad text is never an exception.
+    //
+    // A text must fit to its end. Reading is strict in the fields (2024-02-30 is no date) and as loose as ICU is in the
+    // literals. What a pattern leaves out is taken from 30 December 1899: "yyyy" gives 30 December, and "MMM yyyy"
+    // fails for February, which has no day 30. A year below 30 counts from 2000 and one below 100 from 1900, so "yyyy"
+    // reads "12" as 2012; years 100 to 399 fail. Seconds are read to the millisecond.
+    //
+    // An object remembers the pattern that was tried last and tries it first in the next search. So the reading of an
+    // ambiguous text depends on what was read before, by any thread:
+    //
+    //   TLocale locale(u"en_US");
+    //   locale.ParseDateTimeTryAllFormats(u"01/02/2020", date, ParseDateAndTime);  // 2 January
+    //   locale.ParseDateTimeTryAllFormats(u"13/02/2020", date, ParseDateAndTime);  // 13 February, day first
+    //   locale.ParseDateTimeTryAllFormats(u"01/02/2020", date, ParseDateAndTime);  // 1 February
+    //
+    // and a search that succeeded, repeated at once with ParseDateAndTime and without a reference, gives the same
+    // value. With setCacheFormatter(false) a search does not depend on what was read before.
+    //
+    // One thread reads at a time, others wait. All raise logic assertions where ICU fails to build what reading needs:
+    // "VelICU::ICU_SUCCESS(success)" as LogicException_LogicAssert_0xBD3A59A6 (the calendar), 0xC71ECD6B, 0x71D7BADA,
+    // 0xC8790510 (minute, second, millisecond of a text that was read).
+
+    /// By one pattern. The text is trimmed; a blank one is false. With ParseTimeOnly the result is always false, for
+    /// the date fields stay zero. A null pattern on an object that has not read yet raises the logic assertion
+    /// "fmt != nullptr", LogicException_LogicAssert_0x81E70A33; later it is the empty pattern.
+    bool ParseDateTime(char16_t const * text, char16_t const * pattern, DateTime & out,
+                       DateTimeParseOptions options) const;
+
+    /// By whatever pattern fits first: the one tried last; then, in a locale of "en_US", the table of fixed patterns
+    /// in its order, else the locale's own patterns and styles and some of ISO 8601; at last the platform's parser.
+    /// The text is trimmed; a blank one is false.
+    ///
+    /// The year, month and day that a pattern lacks are the reference's if it is valid; that holds for the table only.
+    /// The pattern tried last knows no reference, and with one the platform's parser is not asked. In the table and in
+    /// the locale's patterns the date and the time are read, whatever the options.
+    bool ParseDateTimeTryAllFormats(char16_t const * text, DateTime & out, DateTimeParseOptions options) const;
+    bool ParseDateTimeTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
+                                    DateTimeParseOptions options) const;
+    /// The same with the locale's patterns for dates alone. In a locale of "en_US" the table is the same, so that the
+    /// result has a time of day if the text has one.
+    bool ParseDateTryAllFormats(char16_t const * text, DateTime & out, DateTimeParseOptions options) const;
+    bool ParseDateTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
+                                DateTimeParseOptions options) const;
+    /// A time of day by fourteen patterns, "ha" to "HH.mm.ss.S": "7pm" is 19:00:00 on 30 December 1899. The text is
+    /// not trimmed and the pattern tried last is not asked first, but the one that fits, or the last one, is
+    /// remembered. Failure gives false and the default date-time.
+    std::tuple<bool, DateTime> ParseTimeTryAllFormats(TString const & text) const;
+
+    /// By the platform's parser. Takes no lock. What it read last is remembered: see ParseDateTimeTryAllFormats.
+    bool ParseDateTimeUsingNativeAPIs(char16_t const * text, DateTime & out, DateTimeParseOptions options) const;
 
     // Locales of the process, made at the first call and never replaced.
 
@@ -148,6 +222,23 @@ private:
     DateFormatCache CloneICUDateFormatCache() const;
     VelICU_V2::ICUDateFormat const & GetICUDateFormat(char16_t const * pattern) const;
 
+    // Reading; all but the first are called under m_parseMutex.
+    bool ParseDateTimeUsingNativeAPIs(char16_t const * text, DateTime & out, DateTime const & reference,
+                                      DateTimeParseOptions options, LCID lcid) const;
+    bool ParseDateTimeWithCachedFormatter(TString const & text, DateTime & out, DateTimeParseOptions options) const;
+    bool ParseDateTimeUsingISODefaultDateTimeFormatStrings(TString const & text, DateTime const & reference,
+                                                           DateTime & out) const;
+    bool ParseInternationalDate(TString const & text, DateTimeParseOptions options, DateTime & out) const;
+    bool ParseInternationalDateTime(TString const & text, DateTimeParseOptions options, DateTime & out) const;
+    void PopulateFormatterAndCalendar(char16_t const * fmt) const;
+    // One try with the formatter as it is, or with a pattern applied to it.
+    bool Try(TString const & text, DateTimeParseOptions options, DateTime const & reference, DateTime & out) const;
+    bool TryPattern(char16_t const * pattern, TString const & text, DateTimeParseOptions options,
+                    DateTime const & reference, DateTime & out) const;
+    bool TryISOShapes(TString const & text, DateTimeParseOptions options, DateTime & out) const;
+
+    static DateTimeFormatCodes const s_dateFormatCodes[4];  // those of dates without a time
+
     mutable TReadWriteLock m_dateFormatCacheLock;  // of m_dateFormatCache alone
     std::unique_ptr<VelICU_V2::ICULocale> m_icuLocale;
     std::unique_ptr<LanguageCode> m_languageCode;
@@ -155,8 +246,8 @@ private:
     // What reading dates fills, under m_parseMutex. The calendar is built anew after 100,000 readings.
     mutable std::unique_ptr<VelICU_V2::ICUCalendar> m_calendar;
     mutable TRecursiveMutex m_parseMutex;
-    mutable std::int32_t m_parseCount = 0;  // readings since m_calendar was built
-    mutable bool m_lastParseNative = false;
+    mutable std::int32_t m_parseCount = 0;                // readings since m_calendar was built
+    mutable std::atomic<bool> m_lastParseNative = false;  // the native overload writes it without the lock
     bool m_parseNative = true;
     mutable std::unique_ptr<LocaleFormatter const> m_formatterCache;
     bool m_cacheFormatter = true;
