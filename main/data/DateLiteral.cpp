@@ -1,28 +1,24 @@
 #include "main/data/DateLiteral.h"
 
-#include "velcoreplatform/TFormatString.h"
+#include "velcoredata/core/DateTimeParsingFormats.h"
 
 namespace {
 
-TString Digits(int value, int width)
+using Formats = DateTimeParsingFormats;
+
+TString Format(DateTime const & value, Formats format)
 {
-    return TString::number(value, width, 10, u'0');
+    return value.Format(LookupDateTimeParsingFormatString(format));
 }
 
 }  // namespace
 
 TString detail::DateLiteral(DateTime const & value)
 {
-    return TFormatString(u"%1-%2-%3")
-        .arg(Digits(value.GetYear(), 4), Digits(value.GetMonth(), 2), Digits(value.GetDay(), 2));
+    return Format(value, Formats::DateFormat_19);
 }
 
 TString detail::DateTimeLiteral(DateTime const & value)
 {
-    TString const clock =
-        TFormatString(u" %1:%2:%3")
-            .arg(Digits(value.GetHour(), 2), Digits(value.GetMinute(), 2), Digits(value.GetSecond(), 2));
-    TString const text = DateLiteral(value) + clock;
-    int const milliseconds = value.GetMilliseconds();
-    return milliseconds > 0 ? text + u'.' + Digits(milliseconds, 3) : text;
+    return Format(value, value.GetMilliseconds() > 0 ? Formats::DateFormat_5 : Formats::DateFormat_11);
 }

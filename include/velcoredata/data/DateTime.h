@@ -4,13 +4,16 @@
 #include <cstdint>
 #include <iosfwd>
 
+#include "velcoredata/core/DateTimeParseOptions.h"
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/Date.h"
 #include "velcoredata/data/DateTimeSpan.h"
+#include "velcoreplatform/TString.h"
 
 class IDateOptions;
 class QDate;
 class QDateTime;
+class TLocale;
 enum FYSValues : std::int32_t;
 struct SYSTEMTIME;
 
@@ -83,6 +86,18 @@ public:
 
     /// The same as SetDateTime, and throws what it throws.
     DateTime(int year, int month, int day, int hour, int minute, int second, double fraction);
+
+    /// Text in a pattern of ICU's letters: see TLocale::ParseDateTime. Without a locale it is the user's. Throws
+    /// VeltriaException_AutoGen_0x2CE8742C, with a locale VeltriaException_AutoGen_0x8E8A7D12 ("Error parsing date
+    /// '%1'"), for a text that does not fit.
+    DateTime(char16_t const * text, char16_t const * format);
+    DateTime(char16_t const * text, char16_t const * format, TLocale const & locale);
+
+    /// Text in whatever pattern fits: see TLocale::ParseDateTimeTryAllFormats. A text that nothing fits is no error:
+    /// the representation is 0 then, which is not valid.
+    explicit DateTime(char16_t const * text);
+    DateTime(char16_t const * text, DateTimeParseOptions options);
+    DateTime(char16_t const * text, DateTimeParseOptions options, TLocale const & locale);
 
     static constexpr DateTime FromValue(unsigned long long value) noexcept { return DateTime(value); }
 
@@ -264,6 +279,35 @@ public:
     /// before 1601). A local time that a zone skips or repeats is read with the offset in force before it / after it.
     static DateTime LocalFromUTC(DateTime const & utc);
     static DateTime UTCFromLocal(DateTime const & local);
+
+    // Text: see TLocale, which does the work. Without a locale it is the user's.
+
+    /// With `useLocale` the date and the time in the locale's own style; else the fixed form
+    /// "2021-03-04T05:06:07.008": the year without padding, milliseconds truncated from ticks.
+    TString Format(bool useLocale) const;
+    TString Format(char16_t const * format) const;
+    TString Format(char16_t const * format, TLocale const & locale) const;
+    TString Format(DateTimeParseOptions options) const;
+    TString Format(DateTimeParseOptions options, TLocale const & locale) const;
+
+    // The members set the value on success and leave it as it was on failure; the static ones do so with `out`. They
+    // return whether the text could be read. The date and the time are read, unless the name says otherwise.
+
+    bool ParseDateTime(char16_t const * text, char16_t const * format);
+    bool ParseDateTime(char16_t const * text, char16_t const * format, TLocale const & locale);
+    static bool ParseDateTime(char16_t const * text, char16_t const * format, DateTime & out);
+    static bool ParseDateTime(char16_t const * text, char16_t const * format, DateTime & out, TLocale const & locale);
+    /// `end` is accepted and left alone.
+    static bool ParseDateTime(char16_t const * text, char16_t const * format, DateTime & out, TLocale const & locale,
+                              char16_t const ** end);
+    static bool ParseDateTime(char16_t const * text, char16_t const * format, unsigned long long * out);
+    bool ParseDateTimeNative(char16_t const * text, TLocale const & locale);
+    bool ParseDateNative(char16_t const * text, TLocale const & locale);
+    bool ParseDateTimeTryAllFormats(char16_t const * text);
+    bool ParseDateTimeTryAllFormats(char16_t const * text, TLocale const & locale);
+    bool ParseDateTimeTryAllFormats(char16_t const * text, TLocale const & locale, DateTime const & reference);
+    bool ParseDateTryAllFormats(char16_t const * text, TLocale const & locale);
+    bool ParseTimeTryAllFormats(TString const & text, TLocale const & locale);
 
     static unsigned long long OleDateToFixedPrecision(double oleDate) noexcept;
     /// `truncateToSeconds` first cuts the representation to a multiple of 10,000 ticks.

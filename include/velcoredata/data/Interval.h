@@ -6,6 +6,7 @@
 
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/Time.h"
+#include "velcoreplatform/TString.h"
 #include "velsys/Arithmetic.h"
 
 /// A signed duration in microseconds.
@@ -95,6 +96,9 @@ public:
 
     /// -1, 0 or 1 as this interval is less than, equal to or greater than the other.
     constexpr int Compare(Interval const & other) const noexcept { return (*this > other) - (*this < other); }
+
+    /// "1 day 2 hour 3 minute 4 second 5 microsecond", the same in every locale. Each part has the interval's sign.
+    TString Format() const;
 
     /// The same question and range as Time::IsFractionRounded. Throws VeltriaException_AutoGen_0x40C02767.
     static bool IsFractionRounded(double fraction);

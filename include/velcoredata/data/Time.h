@@ -4,6 +4,7 @@
 #include <iosfwd>
 
 #include "velcoredata/core/Export.h"
+#include "velcoreplatform/TString.h"
 
 class Interval;
 
@@ -58,6 +59,9 @@ public:
     constexpr bool operator<=(Time const & other) const noexcept { return m_micros <= other.m_micros; }
     constexpr bool operator>(Time const & other) const noexcept { return m_micros > other.m_micros; }
     constexpr bool operator>=(Time const & other) const noexcept { return m_micros >= other.m_micros; }
+
+    /// "7:5:9.0": hour, minute, second and microsecond without padding, the same in every locale.
+    TString Format() const;
 
     /// Whether a fraction of a second holds more digits than a microsecond can and would be rounded: 0.1234567 does.
     /// Throws VeltriaException_AutoGen_0xBE17C602 unless 0 <= fraction < 1; a NaN does not throw and gives false.
