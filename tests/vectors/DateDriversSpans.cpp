@@ -122,7 +122,7 @@ VECTOR_DRIVER("dates_time")
     } else if (op == "split") {
         ExpectParts(row, Parts(TimeOf(args.UInt(0))));
     } else if (op == "format") {
-        row.Skip("text through a locale is not there yet");
+        row.ExpectCell("result", TimeOf(args.UInt(0)).Format().toStdString());
     } else if (op == "plus") {
         row.ExpectUInt("result", (TimeOf(args.UInt(0)) + Interval(args.Int(1))).GetRepresentation());
     } else if (op == "minus") {
@@ -147,7 +147,7 @@ VECTOR_DRIVER("dates_interval")
     } else if (op == "split") {
         ExpectParts(row, Parts(Interval(args.Int(0))));
     } else if (op == "format") {
-        row.Skip("text through a locale is not there yet");
+        row.ExpectCell("result", Interval(args.Int(0)).Format().toStdString());
     } else if (op == "toTime") {
         row.ExpectUInt("result", static_cast<Time>(Interval(args.Int(0))).GetRepresentation());
     } else if (op == "mulDouble") {

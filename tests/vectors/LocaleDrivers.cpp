@@ -2,12 +2,14 @@
 
 #include <string>
 
+#include "main/core/LocaleDatePattern.h"
 #include "main/utility/DatePicture.h"
 #include "main/utility/WinApiLocaleInfoProvider.h"
 #include "tests/vectors/VectorDriver.h"
 #include "velcoredata/core/LanguageUtils.h"
 #include "velcoredata/core/ResourceRegistrationCache.h"
 #include "velcoredata/core/TLocale.h"
+#include "velcoredata/data/Time.h"
 
 namespace {
 
@@ -16,6 +18,13 @@ using velcoredata::vectors::Row;
 TString TextOf(Row const & row, char const * column)
 {
     return TString::fromStdU16String(row.Text(column));
+}
+
+// "7,5,9,0": hour, minute, second, microsecond.
+Time TimeOf(TString const & parts)
+{
+    std::vector<TString> const part = parts.split(u",");
+    return Time(part.at(0).toUInt(), part.at(1).toUInt(), part.at(2).toUInt(), part.at(3).toUInt());
 }
 
 LCID Lcid(Row const & row)
@@ -42,8 +51,13 @@ VECTOR_DRIVER("locale_misc")
         row.ExpectInt("expected", static_cast<int>(detail::NegativeOfCurrencyLayout(static_cast<int>(row.Int("a1")))));
     else if (function == "negative_of_INEGNUMBER")
         row.ExpectInt("expected", static_cast<int>(detail::NegativeOfNumberLayout(static_cast<int>(row.Int("a1")))));
-    else if (function == "format_code_spec" || function == "Format_Time")
-        row.Skip("printing dates and times comes with the formats of TLocale");
+    else if (function == "format_code_spec") {
+        LanguageCode const language(u"de_DE");
+        auto const spec = static_cast<ICUUtils::DefaultDateTimeFormatSpec>(row.Int("expected"));
+        row.Expect("expected", TLocale::GetLocaleFormatAsICU(spec, language.GetLCID()).toStdString(),
+                   detail::GetFormatString(static_cast<DateTimeFormatCodes>(row.Int("a1")), language).toStdString());
+    } else if (function == "Format_Time")
+        row.ExpectText("expected", TimeOf(TextOf(row, "a1")).Format().View());
     else if (function == "GetCorrectedLangCode")
         row.ExpectText("expected", GetCorrectedLangCode(TextOf(row, "a1")).View());
     else
