@@ -1,0 +1,3 @@
+#include "velgeo/Geometry.h"
+
+velgeo::Geometry::~Geometry() = default;
