@@ -1,0 +1,13 @@
+// The spoken name of a colour.
+#pragma once
+
+#include "velcoredata/core/Export.h"
+#include "velcoredata/core/StringIds.h"
+
+namespace CoreData::detail {
+
+// The key of the name of the colour with this hue, saturation and value, each from 0 to 1. Opaque or not does not
+// count.
+VELCOREDATA_API StringId ColorName(float hue, float saturation, float value) noexcept;
+
+}  // namespace CoreData::detail
