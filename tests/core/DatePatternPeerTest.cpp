@@ -1,0 +1,136 @@
+// Reading and printing by patterns that nobody would write, against plain ICU.
+//
+// VELCOREDATA_DATE_PATTERNS is the number of patterns for each locale, 2000 without it.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/core/TLocalePeer.h"
+#include "tests/support/DateSearchModel.h"
+#include "tests/support/QuietLogger.h"
+#include "tests/support/RandomDateText.h"
+#include "velcoredata/data/DateTime.h"
+
+namespace {
+
+using test_support::DateSearchModel;
+using test_support::RandomDateText;
+
+std::size_t CountOfPatterns()
+{
+    char const * const text = std::getenv("VELCOREDATA_DATE_PATTERNS");
+    return text == nullptr ? 2000 : std::strtoul(text, nullptr, 10);
+}
+
+std::string Utf8(std::u16string_view text)
+{
+    return TString::fromView(text).toStdString();
+}
+
+// Fields that ICU has; now and then a letter that it has not, or a quote that nothing closes.
+std::u16string RandomPattern(RandomDateText & random, bool legal)
+{
+    static constexpr std::u16string_view often = u"yMdHhmsaS";
+    static constexpr std::u16string_view letters = u"GyYuUQqMLwWdDFgEecabBhHKkmsSA";
+    static constexpr std::u16string_view between[] = {
+        u"/", u"-", u".", u":", u" ", u", ", u"", u"", u"'T'", u"''", u"'of '", u"\u5E74", u"T'", u"n", u"\U0001F4C5"};
+    std::u16string pattern;
+    for (std::size_t n = 1 + random.Below(7); n > 0; --n) {
+        std::u16string_view const from = random.OneIn(3) ? letters : often;
+        pattern.append(1 + random.Below(random.OneIn(6) ? 7 : 4), from[random.Below(from.size())]);
+        pattern += between[random.Below(std::size(between) - (legal ? 3 : 0))];
+    }
+    return pattern;
+}
+
+class DatePatternPeer : public ::testing::TestWithParam<char16_t const *>
+{
+protected:
+    DatePatternPeer() : m_icuName(TString(GetParam()).toStdString() + "@calendar=gregorian") {}
+
+    std::unique_ptr<icu::SimpleDateFormat> MakeFormat(std::u16string const & pattern) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::Locale const locale(m_icuName.c_str());
+        auto format = std::make_unique<icu::SimpleDateFormat>(
+            icu::UnicodeString(pattern.data(), static_cast<std::int32_t>(pattern.size())), locale, status);
+        EXPECT_TRUE(U_SUCCESS(status));
+        format->adoptCalendar(MakeCalendar().release());
+        return format;
+    }
+
+    // Gregorian in every year, in UTC.
+    std::unique_ptr<icu::GregorianCalendar> MakeCalendar() const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        auto calendar =
+            std::make_unique<icu::GregorianCalendar>(*icu::TimeZone::getGMT(), icu::Locale(m_icuName.c_str()), status);
+        calendar->setGregorianChange(-184303902528000000.0, status);
+        EXPECT_TRUE(U_SUCCESS(status));
+        return calendar;
+    }
+
+    std::string m_icuName;
+};
+
+}  // namespace
+
+TEST_P(DatePatternPeer, AnyPatternReadsAsIcuReadsIt)
+{
+    test_support::QuietLogger const quiet;
+    TLocale const locale(GetParam());
+    DateSearchModel model(m_icuName, locale.getLanguageCode().GetISOString(), locale.GetLCID());
+    RandomDateText random(42, m_icuName, {u"yyyy-MM-dd HH:mm:ss", u"d/M/yy", u"d. MMMM y", u"h:mm a"});
+    std::size_t read = 0;
+    for (std::size_t i = 0; i < CountOfPatterns(); ++i) {
+        std::u16string const pattern = RandomPattern(random, !random.OneIn(4));
+        std::u16string text = random.OneIn(4) ? random.Next() : random.Format(*MakeFormat(pattern));
+        if (random.OneIn(3))
+            random.Spoil(text);
+        auto const options =
+            random.OneIn(6) ? static_cast<DateTimeParseOptions>(1 + random.Below(3)) : ParseDateAndTime;
+        DateTime const sentinel = DateTime::FromValue(2118134448005000);
+        DateTime out = sentinel;
+        bool const success = locale.ParseDateTime(text.c_str(), pattern.c_str(), out, options);
+        DateSearchModel::Result const expected = model.ParseWithPattern(text, pattern, options);
+        ASSERT_EQ(success, expected.has_value()) << Utf8(text) << " [" << Utf8(pattern) << "] " << options;
+        ASSERT_EQ(out, success ? *expected : sentinel) << Utf8(text) << " [" << Utf8(pattern) << "] " << options;
+        ASSERT_EQ(TLocalePeer::GetPattern(locale), TString::fromView(model.Pattern().value_or(u"")));
+        read += success ? 1 : 0;
+    }
+    EXPECT_GT(read, CountOfPatterns() / 50);
+}
+
+TEST_P(DatePatternPeer, AnyPatternPrintsAsIcuPrintsIt)
+{
+    TLocale const locale(GetParam());
+    RandomDateText random(43, m_icuName, {u"yyyy"});
+    auto const calendar = MakeCalendar();
+    for (std::size_t i = 0; i < CountOfPatterns(); ++i) {
+        std::u16string const pattern = RandomPattern(random, true);
+        auto const format = MakeFormat(pattern);
+        for (int k = 0; k < 4; ++k) {
+            int const year = random.OneIn(4) ? 400 + static_cast<int>(random.Below(9600))
+                                             : 1970 + static_cast<int>(random.Below(80));
+            DateTime const value(year, 1 + static_cast<int>(random.Below(12)), 1 + static_cast<int>(random.Below(28)),
+                                 static_cast<int>(random.Below(24)), static_cast<int>(random.Below(60)),
+                                 static_cast<int>(random.Below(60)), static_cast<double>(random.Below(10000)) / 10000);
+            calendar->clear();
+            calendar->set(value.GetYear(), value.GetMonth() - 1, value.GetDay(), value.GetHour(), value.GetMinute(),
+                          value.GetSecond());
+            calendar->set(UCAL_MILLISECOND, value.GetMilliseconds());
+            icu::UnicodeString expected;
+            icu::FieldPosition ignored(icu::FieldPosition::DONT_CARE);
+            format->format(*calendar, expected, ignored);
+            ASSERT_EQ(locale.Format(value, pattern.c_str()),
+                      TString::fromView({expected.getBuffer(), static_cast<std::size_t>(expected.length())}))
+                << Utf8(pattern) << ' ' << value.GetRepresentation();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, DatePatternPeer,
+                         ::testing::Values(u"en_US", u"de_DE", u"fr_FR", u"ja_JP", u"ar_EG", u"hi_IN", u"th_TH"));
