@@ -24,4 +24,5 @@ run examples/data/weather.csv --where 'precipitation > 0' --sum precipitation --
 run examples/data/weather.csv --distinct weather --count --mean temp_max
 run examples/data/airports.csv --sort name --collation LEN_RUS_S2 --rows 10
 run examples/data/airports.csv --find lafayette --sort city --locale en_US --ignore-case
+run examples/data/weather.csv --group-by date:year --max temp_max --language de
 run --explain-collation LEN_RUS_S2

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
 namespace typedtable {
@@ -83,7 +84,7 @@ DataValue Aggregate::GetResult() const
         return m_total;
     if (m_type == DataType::Integer && m_kind == AggregateKind::Sum) {
         if (m_wraps != 0)
-            throw TableError("a sum of integers is beyond 64 bits");
+            throw TableError(Text("a sum of integers is beyond 64 bits"));
         return m_total;
     }
     DataValueOperators operators;

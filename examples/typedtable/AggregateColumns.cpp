@@ -1,25 +1,41 @@
 #include "typedtable/AggregateColumns.h"
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoreplatform/TString.h"
 
 namespace typedtable {
 
+namespace {
+
+std::string TitleOf(AggregateItem const & item)
+{
+    switch (item.kind) {
+    case AggregateKind::Count: break;
+    case AggregateKind::Sum: return Text("sum(%1)", item.column);
+    case AggregateKind::Mean: return Text("mean(%1)", item.column);
+    case AggregateKind::Min: return Text("min(%1)", item.column);
+    case AggregateKind::Max: return Text("max(%1)", item.column);
+    }
+    return Text("count");
+}
+
+}  // namespace
+
 AggregateColumns::AggregateColumns(std::vector<AggregateItem> const & items, Schema const & schema, Nulls nulls)
     : m_nulls(nulls)
 {
     for (AggregateItem const & item : items) {
-        std::string const name = NameOf(item.kind);
         if (item.kind == AggregateKind::Count) {
-            m_items.push_back({item.kind, 0, DataType::Integer, name});
+            m_items.push_back({item.kind, 0, DataType::Integer, TitleOf(item)});
             continue;
         }
         std::size_t const column = schema.Find(item.column);
         DataType const type = schema.columns[column].type;
         if (!CanAggregate(item.kind, type))
-            throw TableError("--" + name + ": column \"" + item.column + "\" is " +
-                             DataValue::DataTypeToString(type).toStdString() + ", not a number");
-        m_items.push_back({item.kind, column, type, name + "(" + item.column + ")"});
+            throw TableError(Text("--%1: column \"%2\" is %3, not a number", NameOf(item.kind), item.column,
+                                  DataValue::DataTypeToString(type).toStdString()));
+        m_items.push_back({item.kind, column, type, TitleOf(item)});
     }
 }
 

@@ -5,8 +5,11 @@
 #include <cstdio>
 #include <exception>
 #include <ostream>
+#include <utility>
 #include <vector>
 
+#include "typedtable/TextTable.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoreplatform/TString.h"
 #include "velsys/VeltriaException.h"
@@ -25,14 +28,14 @@ constexpr std::array kSamples = {
 struct FlagName
 {
     unsigned flag;
-    char const * name;
+    std::string (*name)();
 };
 
 constexpr std::array kFlags = {
-    FlagName{0x1, "ignore case"},
-    FlagName{0x2, "ignore accents"},
-    FlagName{0x4, "ignore symbols"},
-    FlagName{0x80000000, "Windows-specific"},
+    FlagName{0x1, [] { return Text("ignore case"); }},
+    FlagName{0x2, [] { return Text("ignore accents"); }},
+    FlagName{0x4, [] { return Text("ignore symbols"); }},
+    FlagName{0x80000000, [] { return Text("Windows-specific"); }},
 };
 
 // Binary has no language, and the root none either. A language that the library knows has an LCID or a name.
@@ -62,7 +65,7 @@ Collation MakeOrRefuse(Make make, std::string const & refusal)
 std::string WithName(TString const & code, TString const & name)
 {
     if (code.isEmpty())
-        return "none";
+        return Text("none");
     return name.isEmpty() || name == code ? code.toStdString() : name.toStdString() + " (" + code.toStdString() + ")";
 }
 
@@ -75,7 +78,7 @@ std::string DescribeFlags(unsigned flags)
     for (FlagName const & flag : kFlags) {
         if ((flags & flag.flag) != 0) {
             text += separator;
-            text += flag.name;
+            text += flag.name();
             separator = ", ";
         }
     }
@@ -103,7 +106,7 @@ Collation MakeCollation(CollationChoice const & choice)
 {
     if (choice.name) {
         return MakeOrRefuse([&] { return Collation(TString::fromStdString(*choice.name).GetString(), 0); },
-                            "\"" + *choice.name + "\" is not the name of a collation, as LEN_RUS_S2 is");
+                            Text("\"%1\" is not the name of a collation, as LEN_RUS_S2 is", *choice.name));
     }
     if (choice.locale) {
         return MakeOrRefuse(
@@ -114,7 +117,7 @@ Collation MakeCollation(CollationChoice const & choice)
                                  choice.wordSort ? Collation::SortWord : Collation::SortDefault,
                                  Collation::PunctDefault, CollationType::s_unknownCharset);
             },
-            "--locale: \"" + *choice.locale + "\" is not a known locale, as sv_SE is");
+            Text("--locale: \"%1\" is not a known locale, as sv_SE is", *choice.locale));
     }
     return GetUnknownCollation();
 }
@@ -125,13 +128,20 @@ void ExplainCollation(std::ostream & out, std::string const & name)
     choice.name = name;
     Collation const collation = MakeCollation(choice);
     TString const & region = collation.GetDisplayCountry();
-    out << "collation    " << collation.GetName().toStdString() << '\n'
-        << "language     " << WithName(collation.GetLanguage(), collation.GetDisplayLanguage()) << '\n'
-        << "region       " << (region.isEmpty() ? "none" : region.toStdString()) << '\n'
-        << "flags        " << DescribeFlags(collation.GetCmpFlags()) << '\n'
-        << "word sort    " << (collation.HasWordSort() ? "yes" : "no") << '\n'
-        << "description  " << collation.GetDescription().toStdString() << '\n'
-        << "sample order, equal words on one line:\n";
+    std::pair<std::string, std::string> const lines[] = {
+        {Text("collation"), collation.GetName().toStdString()},
+        {Text("language"), WithName(collation.GetLanguage(), collation.GetDisplayLanguage())},
+        {Text("region"), region.isEmpty() ? Text("none") : region.toStdString()},
+        {Text("flags"), DescribeFlags(collation.GetCmpFlags())},
+        {Text("word sort"), collation.HasWordSort() ? Text("yes") : Text("no")},
+        {Text("description"), collation.GetDescription().toStdString()},
+    };
+    std::size_t width = 0;
+    for (auto const & [label, value] : lines)
+        width = std::max(width, TextTable::WidthOf(label));
+    for (auto const & [label, value] : lines)
+        out << label << std::string(width + 2 - TextTable::WidthOf(label), ' ') << value << '\n';
+    out << Text("sample order, equal words on one line:") << '\n';
     PrintSampleOrder(out, collation);
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "typedtable/ColumnTyping.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoreplatform/TString.h"
 
@@ -91,7 +92,7 @@ std::optional<DataValue> ReadLiteral(std::string_view text)
 
 [[noreturn]] void Refuse(std::string const & text)
 {
-    throw UserError("--where: \"" + text + "\" is not COLUMN, one of = != < <= > >=, and a literal");
+    throw UserError(Text("--where: \"%1\" is not COLUMN, one of = != < <= > >=, and a literal", text));
 }
 
 }  // namespace
@@ -119,8 +120,8 @@ Condition ReadCondition(std::string const & text)
         std::string_view const literal = WithoutBlanks(rest.substr(spelling.text.size()));
         auto value = ReadLiteral(literal);
         if (!value)
-            throw UserError("--where: \"" + std::string(literal) +
-                            "\" is no number, date, true, false or null, nor a text in quotes");
+            throw UserError(Text("--where: \"%1\" is no number, date, true, false or null, nor a text in quotes",
+                                 std::string(literal)));
         return {column, spelling.comparison, std::move(*value)};
     }
     Refuse(text);

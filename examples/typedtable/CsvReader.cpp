@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringDecoder>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
 namespace typedtable {
@@ -12,11 +13,6 @@ namespace {
 
 constexpr std::size_t kBufferSize = 65536;
 constexpr int kEnd = -1;
-
-std::string Cells(std::size_t count)
-{
-    return std::to_string(count) + (count == 1 ? " cell" : " cells");
-}
 
 bool IsUtf8(std::string_view text)
 {
@@ -48,13 +44,15 @@ bool CsvReader::Next()
         if (m_width == 0)
             m_width = m_ends.size();
         else if (m_ends.size() != m_width)
-            throw TableError(m_recordLine, Cells(m_ends.size()) + " where the header has " + std::to_string(m_width));
+            throw TableError(m_recordLine, m_ends.size() == 1
+                                               ? Text("1 cell where the header has %1", m_width)
+                                               : Text("%1 cells where the header has %2", m_ends.size(), m_width));
         m_cells.clear();
         std::size_t begin = 0;
         for (std::size_t const end : m_ends) {
             std::string_view const cell = std::string_view(m_bytes).substr(begin, end - begin);
             if (m_hasHighBytes && !IsUtf8(cell))
-                throw TableError(m_recordLine, "text that is not UTF-8");
+                throw TableError(m_recordLine, Text("text that is not UTF-8"));
             m_cells.push_back(cell);
             begin = end;
         }
@@ -91,9 +89,9 @@ int CsvReader::Get()
 void CsvReader::Append(char byte)
 {
     if (m_bytes.size() == kLongestRecord)
-        throw TableError(m_recordLine, "a record of more than 16 MiB: is a quote not closed?");
+        throw TableError(m_recordLine, Text("a record of more than 16 MiB: is a quote not closed?"));
     if (byte == '\0')
-        throw TableError(m_line, "a zero byte: this is not a text file");
+        throw TableError(m_line, Text("a zero byte: this is not a text file"));
     m_hasHighBytes |= static_cast<unsigned char>(byte) >= 0x80;
     m_bytes.push_back(byte);
 }
@@ -123,7 +121,7 @@ bool CsvReader::ReadRecord()
             ReadPlainCell();
         m_ends.push_back(m_bytes.size());
         if (m_ends.size() > kLongestRecord)
-            throw TableError(m_recordLine, "a record of more than 16 MiB");
+            throw TableError(m_recordLine, Text("a record of more than 16 MiB"));
         if (Peek() != ',')
             break;
         Get();
@@ -132,7 +130,7 @@ bool CsvReader::ReadRecord()
     long long const line = m_line;
     m_isBlank = m_isBlank && m_ends.size() == 1 && m_bytes.empty();
     if (!SkipLineEnd())
-        throw TableError(line, "text behind a closing quote");
+        throw TableError(line, Text("text behind a closing quote"));
     return true;
 }
 
@@ -143,7 +141,7 @@ void CsvReader::ReadQuotedCell()
     for (;;) {
         int const byte = Get();
         if (byte == kEnd)
-            throw TableError(opened, "a quote is never closed");
+            throw TableError(opened, Text("a quote is never closed"));
         if (byte == '"') {
             if (Peek() != '"')
                 return;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "typedtable/Table.h"
+#include "typedtable/Texts.h"
 
 namespace typedtable {
 
@@ -47,8 +48,10 @@ void Distinct::Print(std::ostream & out)
     std::sort(table.rows.begin(), table.rows.end(),
               [&](auto const & a, auto const & b) { return m_operators.Compare(a[0], b[0], false) < 0; });
     PrintTable(out, table);
-    out << table.rows.size() << (table.rows.size() == 1 ? " value" : " different values") << " in "
-        << CountOfRows(m_rows, m_schema.rows) << '\n';
+    std::string const rows = CountOfRows(m_rows, m_schema.rows);
+    out << (table.rows.size() == 1 ? Text("1 value in %1", rows)
+                                   : Text("%1 different values in %2", table.rows.size(), rows))
+        << '\n';
 }
 
 }  // namespace typedtable

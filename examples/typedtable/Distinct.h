@@ -8,6 +8,7 @@
 #include "typedtable/AggregateColumns.h"
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
+#include "typedtable/Texts.h"
 #include "velcoredata/utility/DataValueOperators.h"
 
 namespace typedtable {
@@ -28,7 +29,7 @@ public:
     Distinct(DistinctRequest const & request, Schema const & schema, Nulls nulls);
 
     std::vector<std::size_t> GetColumns() const override;
-    char const * GetDoing() const override { return "grouped"; }
+    std::string GetDoing() const override { return Text("%1 rows grouped"); }
     void Add(TypedReader const & row) override;
 
     /// One row a group, by rising value, nulls first: the first of the equal values that the file has, the aggregates;

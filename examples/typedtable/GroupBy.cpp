@@ -4,6 +4,7 @@
 #include <ostream>
 #include <utility>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "typedtable/ValueText.h"
 #include "velcoredata/data/DateTime.h"
@@ -18,6 +19,19 @@ namespace {
 std::string TypeName(DataType type)
 {
     return DataValue::DataTypeToString(type).toStdString();
+}
+
+// Above the names of periods; only for those that have names.
+std::string TitleOfNames(DatePeriodType period)
+{
+    switch (period) {
+    case DatePeriodType::Year: return Text("year");
+    case DatePeriodType::Quarter: return Text("quarter");
+    case DatePeriodType::Month: return Text("month");
+    case DatePeriodType::ISOYear: return Text("iso-year");
+    case DatePeriodType::ISOQuarter: return Text("iso-quarter");
+    default: return Text("iso-week");
+    }
 }
 
 template <class... Numbers>
@@ -35,8 +49,8 @@ GroupBy::GroupBy(GroupByRequest const & request, Schema const & schema, Nulls nu
 {
     DataType const dateType = schema.columns[m_dateColumn].type;
     if (!IsTemporal(dateType))
-        throw TableError("--group-by: column \"" + request.column + "\" is " + TypeName(dateType) +
-                         ", not DATE or DATETIME");
+        throw TableError(
+            Text("--group-by: column \"%1\" is %2, not DATE or DATETIME", request.column, TypeName(dateType)));
 }
 
 std::vector<std::size_t> GroupBy::GetColumns() const
@@ -66,8 +80,8 @@ DataValue GroupBy::StartOf(DataValue const & date, long long line) const
     try {
         return DataValue::FromDate(FindStartOfPeriod(day, m_request.period, *m_request.options));
     } catch (VeltriaException const &) {
-        throw TableError(line, "the " + m_request.periodName + " of " + ValueText(date) +
-                                   " begins before the year 400, where the calendar ends");
+        throw TableError(line, Text("the %1 of %2 begins before the year 400, where the calendar ends",
+                                    m_request.periodName, ValueText(date)));
     }
 }
 
@@ -110,7 +124,7 @@ Table GroupBy::GetResult() const
     bool const hasNames = HasNames();
     table.columns.push_back({m_request.column + ":" + m_request.periodName, DataType::Date});
     if (hasNames)
-        table.columns.push_back({m_request.periodName, DataType::String});
+        table.columns.push_back({TitleOfNames(m_request.period), DataType::String});
     m_items.AppendTitles(table);
     for (auto const & [key, group] : m_groups) {
         std::vector<DataValue> row{group.start};
@@ -146,10 +160,14 @@ void GroupBy::PrintSpan(std::ostream & out) const
         m_request.period == DatePeriodType::ISOWeek ? DatePeriodType::Week : m_request.period;
     long long const periods = DatePeriodDifference(end, begin, counted, *m_request.options) + 1;
     long long const empty = periods - static_cast<long long>(count);
-    out << periods << (periods == 1 ? " period" : " periods") << " from " << ValueText(first->second.start) << " to "
-        << ValueText(m_groups.rbegin()->second.start);
-    if (empty != 0)
-        out << ", " << empty << " of them without rows";
+    std::string const from = ValueText(first->second.start);
+    std::string const to = ValueText(m_groups.rbegin()->second.start);
+    if (periods == 1)
+        out << Text("1 period from %1 to %2", from, to);
+    else if (empty == 0)
+        out << Text("%1 periods from %2 to %3", periods, from, to);
+    else
+        out << Text("%1 periods from %2 to %3, %4 of them without rows", periods, from, to, empty);
     out << '\n';
 }
 

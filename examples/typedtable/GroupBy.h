@@ -12,6 +12,7 @@
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
+#include "typedtable/Texts.h"
 #include "typedtable/TypedReader.h"
 #include "velcoredata/data/DateEnums.h"
 #include "velcoredata/data/IDateOptions.h"
@@ -37,7 +38,7 @@ public:
     GroupBy(GroupByRequest const & request, Schema const & schema, Nulls nulls);
 
     std::vector<std::size_t> GetColumns() const override;
-    char const * GetDoing() const override { return "grouped"; }
+    std::string GetDoing() const override { return Text("%1 rows grouped"); }
 
     /// Throws TableError if the period begins before the year 400.
     void Add(TypedReader const & row) override;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoredata/data/GregorianDateOptions.h"
 #include "velcoredata/data/ISO8601DateOptions.h"
@@ -50,9 +51,9 @@ std::shared_ptr<IDateOptions const> MakeDateOptions(GroupByRequest const & reque
 {
     DatePeriodType const period = request.period;
     if (fiscalStart && period != DatePeriodType::Year && period != DatePeriodType::Quarter)
-        throw UserError("--fiscal-start moves years and quarters, not " + request.periodName + "s");
+        throw UserError(Text("--fiscal-start moves years and quarters, not %1s", request.periodName));
     if (weekStart && period != DatePeriodType::Week && period != DatePeriodType::ISOWeek)
-        throw UserError("--week-start moves weeks, not " + request.periodName + "s");
+        throw UserError(Text("--week-start moves weeks, not %1s", request.periodName));
     if (IsIso(period) && !weekStart)
         return std::make_shared<ISO8601DateOptions>();
     return std::make_shared<GregorianDateOptions>(static_cast<SOWValue>(weekStart.value_or(SOW_SUNDAY)),
@@ -68,14 +69,14 @@ GroupByRequest MakeGroupByRequest(std::string const & text, std::optional<int> f
     // A column's name may hold a colon, a period's does not.
     std::size_t const colon = text.rfind(':');
     if (colon == std::string::npos || colon == 0)
-        throw UserError("--group-by: \"" + text + "\" is not COLUMN:PERIOD");
+        throw UserError(Text("--group-by: \"%1\" is not COLUMN:PERIOD", text));
     request.column = text.substr(0, colon);
     request.periodName = text.substr(colon + 1);
     auto const period = std::find_if(kPeriods.begin(), kPeriods.end(), [&](PeriodName const & candidate) {
         return candidate.name == request.periodName;
     });
     if (period == kPeriods.end())
-        throw UserError("--group-by: \"" + request.periodName + "\" is not a period: " + ListPeriods());
+        throw UserError(Text("--group-by: \"%1\" is not a period: %2", request.periodName, ListPeriods()));
     request.period = period->period;
     request.options = MakeDateOptions(request, fiscalStart, weekStart);
     request.items = std::move(items);

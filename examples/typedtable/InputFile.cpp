@@ -7,6 +7,7 @@
 #include <cstring>
 #include <utility>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
 namespace typedtable {
@@ -20,7 +21,7 @@ namespace {
 
 }  // namespace
 
-InputFile::InputFile(std::string const & path, Readings readings) : m_name(path == "-" ? "standard input" : path)
+InputFile::InputFile(std::string const & path, Readings readings) : m_name(path == "-" ? Text("standard input") : path)
 {
     if (path == "-") {
         // A descriptor of our own: standard input itself stays open.
@@ -35,12 +36,12 @@ InputFile::InputFile(std::string const & path, Readings readings) : m_name(path 
     if (!m_file || fstat(fileno(m_file.get()), &status) != 0)
         ThrowSystemError(m_name);
     if (S_ISDIR(status.st_mode))
-        throw UserError(m_name + ": is a folder, not a file");
+        throw UserError(Text("%1: is a folder, not a file", m_name));
     // Standard input may stand in the middle of a regular file, which is where the table begins.
     if (readings == Readings::Twice && (!S_ISREG(status.st_mode) || path == "-")) {
         m_copy.reset(std::tmpfile());
         if (!m_copy)
-            ThrowSystemError("temporary file");
+            ThrowSystemError(Text("temporary file"));
     }
 }
 
@@ -50,7 +51,7 @@ std::size_t InputFile::Read(char * bytes, std::size_t size)
     if (count == 0 && std::ferror(m_file.get()))
         ThrowSystemError(m_name);
     if (m_copy && std::fwrite(bytes, 1, count, m_copy.get()) != count)
-        ThrowSystemError("temporary file");
+        ThrowSystemError(Text("temporary file"));
     return count;
 }
 
@@ -58,7 +59,7 @@ void InputFile::Rewind()
 {
     if (m_copy) {
         if (std::fflush(m_copy.get()) != 0)
-            ThrowSystemError("temporary file");
+            ThrowSystemError(Text("temporary file"));
         m_file = std::move(m_copy);
     }
     if (std::fseek(m_file.get(), 0, SEEK_SET) != 0)

@@ -4,6 +4,8 @@
 #include <ostream>
 #include <utility>
 
+#include "typedtable/Texts.h"
+
 namespace typedtable {
 
 Listing::Listing(ListingRequest const & request, Schema const & schema, bool sqlNulls)
@@ -55,10 +57,9 @@ void Listing::Print(std::ostream & out)
     if (m_sortColumn)
         Sort();
     PrintTable(out, m_table);
-    out << CountOfRows(m_matching, m_schema.rows);
-    if (m_table.rows.size() < static_cast<std::size_t>(m_matching))
-        out << ", the first " << m_table.rows.size() << " shown";
-    out << '\n';
+    std::string const count = CountOfRows(m_matching, m_schema.rows);
+    bool const isCut = m_table.rows.size() < static_cast<std::size_t>(m_matching);
+    out << (isCut ? Text("%1, the first %2 shown", count, m_table.rows.size()) : count) << '\n';
 }
 
 }  // namespace typedtable

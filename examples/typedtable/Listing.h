@@ -10,6 +10,7 @@
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
+#include "typedtable/Texts.h"
 #include "velcoredata/utility/DataValueOperators.h"
 
 namespace typedtable {
@@ -29,7 +30,7 @@ public:
     Listing(ListingRequest const & request, Schema const & schema, bool sqlNulls);
 
     std::vector<std::size_t> GetColumns() const override;
-    char const * GetDoing() const override { return "listed"; }
+    std::string GetDoing() const override { return Text("%1 rows listed"); }
     void Add(TypedReader const & row) override;
 
     /// The rows by rising value of the sorted column as DataValueOperators::Compare has it, nulls first, equal ones in

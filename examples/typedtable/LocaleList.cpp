@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "typedtable/TextTable.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoredata/core/ReStringParser.h"
 #include "velcoredata/core/TLocale.h"
@@ -13,15 +14,13 @@ namespace typedtable {
 
 namespace {
 
-constexpr LCID kEnglish = 0x409;
-
 RefCntPtr<ReStringParser> Compile(std::string const & pattern)
 {
     try {
         return RefCntPtr<ReStringParser>(
             new ReStringParser(TString::fromStdString(pattern).GetString(), false, RegExParserXpressive));
     } catch (std::exception const &) {
-        throw UserError("--list-locales: \"" + pattern + "\" is not a regular expression");
+        throw UserError(Text("--list-locales: \"%1\" is not a regular expression", pattern));
     }
 }
 
@@ -37,10 +36,10 @@ std::string Hexadecimal(int lcid)
 void PrintLocales(std::ostream & out, LocalesRequest const & request)
 {
     RefCntPtr<ReStringParser> const pattern = Compile(request.pattern);
-    auto const locales = TLocale::GetCommonlySupportedLocalesForWindowsAndICU(kEnglish);
+    auto const locales = TLocale::GetCommonlySupportedLocalesForWindowsAndICU(LanguageScope::GetLcid());
 
     TextTable table;
-    for (char const * const title : {"lcid", "locale", "name", "short date"})
+    for (std::string const & title : {Text("lcid"), Text("locale"), Text("name"), Text("short date")})
         table.AddColumn(title, TextTable::Align::Left);
     std::size_t matching = 0;
     for (TLocale::LocaleInfo const & locale : locales) {
@@ -53,7 +52,7 @@ void PrintLocales(std::ostream & out, LocalesRequest const & request)
                       date.toStdString()});
     }
     table.Print(out);
-    out << matching << " of " << locales.size() << " locales\n";
+    out << Text("%1 of %2 locales", matching, locales.size()) << '\n';
 }
 
 }  // namespace typedtable

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "typedtable/GroupByOptions.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
 namespace typedtable {
@@ -22,14 +23,19 @@ int ReadNumber(std::string const & option, std::string const & text, int least, 
     char const * const end = text.data() + text.size();
     auto const [stop, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || stop != end || number < least || number > most)
-        throw UserError(option + ": \"" + text + "\" is not a number from " + std::to_string(least) + " to " +
-                        std::to_string(most));
+        throw UserError(Text("%1: \"%2\" is not a number from %3 to %4", option, text, least, most));
     return number;
 }
 
 std::string OptionOf(AggregateKind kind)
 {
     return std::string("--") + NameOf(kind);
+}
+
+bool AsksForHelp(std::vector<std::string> const & arguments)
+{
+    auto const end = std::find(arguments.begin(), arguments.end(), "--");
+    return std::find(arguments.begin(), end, "--help") != end;
 }
 
 // Walks the arguments and keeps what stands there; what it means together is for Finish.
@@ -54,15 +60,15 @@ public:
     }
 
 private:
-    using Text = std::optional<std::string> Arguments::*;
+    using TextPlace = std::optional<std::string> Arguments::*;
     using Flag = bool Arguments::*;
 
     void SetFile(std::string const & path)
     {
         if (path.empty())
-            throw UserError("a file name is empty");
+            throw UserError(Text("a file name is empty"));
         if (m_file)
-            throw UserError("more than one file: \"" + *m_file + "\" and \"" + path + "\"");
+            throw UserError(Text("more than one file: \"%1\" and \"%2\"", *m_file, path));
         m_file = path;
     }
 
@@ -75,9 +81,9 @@ private:
             m_attached = argument.substr(equals + 1);
         if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name) &&
             !ReadListLocales(name))
-            throw UserError("unknown option \"" + name + "\"; typedtable --help lists them");
+            throw UserError(Text("unknown option \"%1\"; typedtable --help lists them", name));
         if (m_attached)
-            throw UserError(name + " takes no value");
+            throw UserError(Text("%1 takes no value", name));
     }
 
     bool ReadNumberOption(std::string const & name)
@@ -95,7 +101,7 @@ private:
 
     bool ReadTextOption(std::string const & name)
     {
-        static constexpr std::array<std::pair<std::string_view, Text>, 8> kTexts = {{
+        static constexpr std::array<std::pair<std::string_view, TextPlace>, 9> kTexts = {{
             {"--group-by", &Arguments::m_groupBy},
             {"--distinct", &Arguments::m_distinct},
             {"--sort", &Arguments::m_sort},
@@ -104,13 +110,14 @@ private:
             {"--collation", &Arguments::m_collation},
             {"--locale", &Arguments::m_locale},
             {"--explain-collation", &Arguments::m_explain},
+            {"--language", &Arguments::m_language},
         }};
         for (auto const & [option, place] : kTexts) {
             if (name != option)
                 continue;
             std::string value = TakeValue(name);
             if (value.empty())
-                throw UserError(name + ": the value is empty");
+                throw UserError(Text("%1: the value is empty", name));
             SetOnce(this->*place, name, std::move(value));
             return true;
         }
@@ -129,7 +136,7 @@ private:
             if (name != option)
                 continue;
             if (std::exchange(this->*place, true))
-                throw UserError(name + " is given twice");
+                throw UserError(Text("%1 is given twice", name));
             return true;
         }
         return false;
@@ -165,7 +172,7 @@ private:
         if (m_attached)
             return *std::exchange(m_attached, std::nullopt);
         if (m_next == m_arguments.size() || m_arguments[m_next].starts_with("--"))
-            throw UserError(option + " needs a value");
+            throw UserError(Text("%1 needs a value", option));
         return m_arguments[m_next++];
     }
 
@@ -173,34 +180,29 @@ private:
     static void SetOnce(std::optional<Value> & place, std::string const & option, Value value)
     {
         if (place)
-            throw UserError(option + " is given twice");
+            throw UserError(Text("%1 is given twice", option));
         place = std::move(value);
-    }
-
-    // Throws if both options are there.
-    static void Exclude(bool first, bool second, std::string const & refusal)
-    {
-        if (first && second)
-            throw UserError(refusal + ": give one of them");
     }
 
     Options Finish()
     {
         Options options;
+        // --language goes with everything.
+        int const others = m_options - (m_language ? 1 : 0);
         if (m_explain) {
-            if (m_file || m_options > 1)
-                throw UserError("--explain-collation stands alone");
+            if (m_file || others > 1)
+                throw UserError(Text("%1 stands alone", "--explain-collation"));
             options.task = ExplainRequest{*m_explain};
             return options;
         }
         if (m_locales) {
-            if (m_file || m_options > 1)
-                throw UserError("--list-locales stands alone");
+            if (m_file || others > 1)
+                throw UserError(Text("%1 stands alone", "--list-locales"));
             options.task = LocalesRequest{*m_locales};
             return options;
         }
         if (!m_file)
-            throw UserError("no file is given; typedtable --help shows the usage");
+            throw UserError(Text("no file is given; typedtable --help shows the usage"));
         options.file = *m_file;
         options.sqlNulls = m_sqlNulls;
         if (m_where)
@@ -209,7 +211,7 @@ private:
         options.collation = FinishCollation();
         if (m_sqlNulls && !m_where && !m_sort &&
             !HasItem([](AggregateKind kind) { return kind != AggregateKind::Count; }))
-            throw UserError("--sql-nulls needs --where, --sort, --sum, --mean, --min or --max");
+            throw UserError(Text("--sql-nulls needs --where, --sort, --sum, --mean, --min or --max"));
         options.task = FinishTask();
         return options;
     }
@@ -217,16 +219,18 @@ private:
     Options::Task FinishTask()
     {
         if (!m_groupBy && m_fiscalStart)
-            throw UserError("--fiscal-start needs --group-by");
+            throw UserError(Text("%1 needs %2", "--fiscal-start", "--group-by"));
         if (!m_groupBy && m_weekStart)
-            throw UserError("--week-start needs --group-by");
-        Exclude(m_groupBy.has_value(), m_distinct.has_value(), "--group-by and --distinct both gather rows");
-        if (m_groupBy || m_distinct || !m_items.empty()) {
-            std::string const shown = m_groupBy    ? "--group-by shows groups"
-                                      : m_distinct ? "--distinct shows groups"
-                                                   : OptionOf(m_items.front().kind) + " shows one line";
-            Exclude(m_rows.has_value(), true, "--rows shows rows and " + shown);
-            Exclude(m_sort.has_value(), true, "--sort shows rows and " + shown);
+            throw UserError(Text("%1 needs %2", "--week-start", "--group-by"));
+        if (m_groupBy && m_distinct)
+            throw UserError(Text("--group-by and --distinct both gather rows: give one of them"));
+        if ((m_groupBy || m_distinct || !m_items.empty()) && (m_rows || m_sort)) {
+            std::string const shown = m_rows ? "--rows" : "--sort";
+            if (m_groupBy || m_distinct)
+                throw UserError(Text("%1 shows rows and %2 shows groups: give one of them", shown,
+                                     m_groupBy ? "--group-by" : "--distinct"));
+            throw UserError(
+                Text("%1 shows rows and %2 shows one line: give one of them", shown, OptionOf(m_items.front().kind)));
         }
         if (m_groupBy)
             return MakeGroupByRequest(*m_groupBy, m_fiscalStart, m_weekStart, std::move(m_items));
@@ -249,22 +253,23 @@ private:
 
     CollationChoice FinishCollation() const
     {
-        Exclude(m_collation.has_value(), m_locale.has_value(), "--collation and --locale both name a collation");
+        if (m_collation && m_locale)
+            throw UserError(Text("--collation and --locale both name a collation: give one of them"));
         for (auto const & [given, option] :
              {std::pair(m_ignoreCase, "--ignore-case"), std::pair(m_ignoreAccents, "--ignore-accents"),
               std::pair(m_wordSort, "--word-sort")})
         {
             if (given && m_collation)
-                throw UserError(std::string(option) + " goes with --locale; the name behind --collation says it all");
+                throw UserError(Text("%1 goes with --locale; the name behind --collation says it all", option));
             if (given && !m_locale)
-                throw UserError(std::string(option) + " needs --locale");
+                throw UserError(Text("%1 needs %2", option, "--locale"));
         }
         bool const isUsed = m_sort || m_distinct || m_find || m_where || HasItem([](AggregateKind kind) {
                                 return kind == AggregateKind::Min || kind == AggregateKind::Max;
                             });
         if ((m_collation || m_locale) && !isUsed)
-            throw UserError(std::string(m_collation ? "--collation" : "--locale") +
-                            " needs --sort, --distinct, --find, --where, --min or --max");
+            throw UserError(Text("%1 needs --sort, --distinct, --find, --where, --min or --max",
+                                 m_collation ? "--collation" : "--locale"));
         return {m_collation, m_locale, m_ignoreCase, m_ignoreAccents, m_wordSort};
     }
 
@@ -292,6 +297,7 @@ private:
     std::optional<std::string> m_locale;
     std::optional<std::string> m_explain;
     std::optional<std::string> m_locales;
+    std::optional<std::string> m_language;  // FindLanguage has it
     bool m_ignoreCase = false;
     bool m_ignoreAccents = false;
     bool m_wordSort = false;
@@ -301,10 +307,26 @@ private:
 
 }  // namespace
 
+std::optional<std::string> FindLanguage(std::vector<std::string> const & arguments)
+{
+    static constexpr std::string_view kOption = "--language";
+    auto const end = std::find(arguments.begin(), arguments.end(), "--");
+    if (AsksForHelp(arguments))
+        return std::nullopt;
+    for (auto argument = arguments.begin(); argument != end; ++argument) {
+        if (!argument->starts_with(kOption))
+            continue;
+        if (*argument == kOption && argument + 1 != end && !argument[1].starts_with("--"))
+            return argument[1];
+        if (argument->size() > kOption.size() + 1 && (*argument)[kOption.size()] == '=')
+            return argument->substr(kOption.size() + 1);
+    }
+    return std::nullopt;
+}
+
 Options ReadOptions(std::vector<std::string> const & arguments)
 {
-    auto const end = std::find(arguments.begin(), arguments.end(), "--");
-    if (std::find(arguments.begin(), end, "--help") != end) {
+    if (AsksForHelp(arguments)) {
         Options options;
         options.task = HelpRequest{};
         return options;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -48,7 +49,11 @@ struct Options
 /// nothing, and for none or more than one file.
 Options ReadOptions(std::vector<std::string> const & arguments);
 
-/// The text of --help.
+/// What stands behind "--language", for texts that are needed before the arguments are read; nothing if it is not
+/// there, has no value, or "--help" is there.
+std::optional<std::string> FindLanguage(std::vector<std::string> const & arguments);
+
+/// The text of --help, in English.
 extern char const * const kUsage;
 
 }  // namespace typedtable

@@ -4,10 +4,14 @@
 
 #include <cstdio>
 #include <string>
+#include <utility>
+
+#include "typedtable/TextTable.h"
+#include "typedtable/Texts.h"
 
 namespace typedtable {
 
-Progress::Progress(char const * doing) : m_doing(doing), m_isTerminal(isatty(STDERR_FILENO) == 1) {}
+Progress::Progress(std::string doing) : m_doing(std::move(doing)), m_isTerminal(isatty(STDERR_FILENO) == 1) {}
 
 Progress::~Progress()
 {
@@ -22,7 +26,9 @@ void Progress::Show()
         place -= 3;
         count.insert(place, ",");
     }
-    m_width = std::fprintf(stderr, "\r%s rows %s", count.c_str(), m_doing) - 1;
+    std::string const line = detail::Fill(m_doing, {count});
+    m_width = static_cast<int>(TextTable::WidthOf(line));
+    std::fprintf(stderr, "\r%s", line.c_str());
     std::fflush(stderr);
 }
 

@@ -1,6 +1,8 @@
 // Progress: how far a long reading is.
 #pragma once
 
+#include <string>
+
 namespace typedtable {
 
 /// Counts rows and, where standard error is a terminal, shows their number there: one line, written anew every 65,536
@@ -8,8 +10,8 @@ namespace typedtable {
 class Progress
 {
 public:
-    /// `doing` lives as long as the object: "typed" shows as "131,072 rows typed".
-    explicit Progress(char const * doing);
+    /// `doing` has a place for the number: "%1 rows typed" shows as "131,072 rows typed".
+    explicit Progress(std::string doing);
     ~Progress();
     Progress(Progress const &) = delete;
     Progress & operator=(Progress const &) = delete;
@@ -23,7 +25,7 @@ public:
 private:
     void Show();
 
-    char const * m_doing;
+    std::string m_doing;
     long long m_rows = 0;
     bool m_isTerminal;
     int m_width = 0;  // of the line that stands on the terminal

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "typedtable/ValueText.h"
 #include "velcoreplatform/TString.h"
@@ -18,10 +19,10 @@ RowFilter::RowFilter(FilterRequest const & request, Schema const & schema, Colla
         DataType const type = schema.columns[column].type;
         DataValue literal = condition.literal;
         if (!m_operators.CanPromote(type, literal.GetDataType()))
-            throw TableError("--where: column \"" + condition.column + "\" is " +
-                             DataValue::DataTypeToString(type).toStdString() + " and does not compare with the " +
-                             DataValue::DataTypeToString(literal.GetDataType()).toStdString() + " " +
-                             ValueText(literal));
+            throw TableError(Text("--where: column \"%1\" is %2 and does not compare with the %3 %4", condition.column,
+                                  DataValue::DataTypeToString(type).toStdString(),
+                                  DataValue::DataTypeToString(literal.GetDataType()).toStdString(),
+                                  ValueText(literal)));
         if (literal.IsNull())
             literal.MakeSpecial(DataValueTypes::Null, type);
         else if (literal.GetDataType() == DataType::String)
@@ -35,7 +36,7 @@ RowFilter::RowFilter(FilterRequest const & request, Schema const & schema, Colla
                 m_textColumns.push_back(i);
         }
         if (m_textColumns.empty())
-            throw TableError("--find: no column is STRING");
+            throw TableError(Text("--find: no column is STRING"));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <string>
 #include <vector>
 
 #include "typedtable/TypedReader.h"
@@ -18,8 +19,8 @@ public:
     /// Indices of the columns that a row needs.
     virtual std::vector<std::size_t> GetColumns() const = 0;
 
-    /// What is done with the rows, for the progress line: "grouped".
-    virtual char const * GetDoing() const = 0;
+    /// What is done with the rows, for the progress line: "%1 rows grouped" in the language in force.
+    virtual std::string GetDoing() const = 0;
 
     /// Throws TableError if it cannot take the row.
     virtual void Add(TypedReader const & row) = 0;

@@ -8,6 +8,7 @@
 #include "typedtable/CsvReader.h"
 #include "typedtable/Progress.h"
 #include "typedtable/TextTable.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "typedtable/ValueText.h"
 #include "velcoreplatform/TString.h"
@@ -16,9 +17,9 @@ namespace typedtable {
 
 namespace {
 
-std::string Counted(long long count, std::string const & noun)
+std::string CountOfColumns(std::size_t count)
 {
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+    return count == 1 ? Text("1 column") : Text("%1 columns", count);
 }
 
 }  // namespace
@@ -30,11 +31,11 @@ std::size_t Schema::Find(std::string const & name) const
         if (columns[i].name != name)
             continue;
         if (found)
-            throw TableError("more than one column is named \"" + name + "\"");
+            throw TableError(Text("more than one column is named \"%1\"", name));
         found = i;
     }
     if (!found)
-        throw TableError("no column is named \"" + name + "\"");
+        throw TableError(Text("no column is named \"%1\"", name));
     return *found;
 }
 
@@ -42,7 +43,7 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows)
 {
     CsvReader reader(source);
     if (!reader.Next())
-        throw TableError("the file is empty: no header");
+        throw TableError(Text("the file is empty: no header"));
     Schema schema;
     for (std::string_view const cell : reader.GetCells()) {
         std::string name(cell);
@@ -53,7 +54,7 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows)
 
     std::vector<ColumnTyping> typings(schema.columns.size());
     std::vector<std::vector<std::string>> texts;
-    Progress progress("typed");
+    Progress progress(Text("%1 rows typed"));
     while (reader.Next()) {
         auto const & cells = reader.GetCells();
         for (std::size_t i = 0; i < cells.size(); ++i)
@@ -81,17 +82,19 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows)
 
 std::string CountOfRows(long long part, long long whole)
 {
-    return (part == whole ? "" : std::to_string(part) + " of ") + Counted(whole, "row");
+    if (part == whole)
+        return whole == 1 ? Text("1 row") : Text("%1 rows", whole);
+    return whole == 1 ? Text("%1 of 1 row", part) : Text("%1 of %2 rows", part, whole);
 }
 
 void PrintSchema(std::ostream & out, std::string const & fileName, Schema const & schema)
 {
-    out << OnOneLine(fileName) << ": " << Counted(schema.rows, "row") << ", "
-        << Counted(static_cast<long long>(schema.columns.size()), "column") << "\n\n";
+    out << OnOneLine(fileName) << ": " << CountOfRows(schema.rows, schema.rows) << ", "
+        << CountOfColumns(schema.columns.size()) << "\n\n";
     TextTable table;
-    table.AddColumn("column", TextTable::Align::Left);
-    table.AddColumn("type", TextTable::Align::Left);
-    table.AddColumn("nulls", TextTable::Align::Right);
+    table.AddColumn(Text("column"), TextTable::Align::Left);
+    table.AddColumn(Text("type"), TextTable::Align::Left);
+    table.AddColumn(Text("nulls"), TextTable::Align::Right);
     for (auto const & column : schema.columns)
         table.AddRow({OnOneLine(column.name), DataValue::DataTypeToString(column.type).toStdString(),
                       std::to_string(column.nulls)});

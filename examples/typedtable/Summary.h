@@ -6,6 +6,7 @@
 #include "typedtable/AggregateColumns.h"
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
+#include "typedtable/Texts.h"
 
 namespace typedtable {
 
@@ -22,7 +23,7 @@ public:
     Summary(SummaryRequest const & request, Schema const & schema, Nulls nulls);
 
     std::vector<std::size_t> GetColumns() const override;
-    char const * GetDoing() const override { return "summed up"; }
+    std::string GetDoing() const override { return Text("%1 rows summed up"); }
     void Add(TypedReader const & row) override;
 
     /// One line of results, then "12 of 2922 rows".

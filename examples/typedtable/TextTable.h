@@ -3,6 +3,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace typedtable {
@@ -17,8 +18,11 @@ public:
         Right
     };
 
-    /// In characters; a longer cell is cut and ends in "...".
+    /// In columns of a terminal; a longer cell is cut and ends in "...".
     static constexpr std::size_t kWidestCell = 40;
+
+    /// How many columns of a terminal a UTF-8 text takes: one a code point, two for the wide ones of East Asia.
+    static std::size_t WidthOf(std::string_view text) noexcept;
 
     void AddColumn(std::string title, Align align);
 

@@ -4,9 +4,19 @@
 #include <utility>
 
 #include "typedtable/ColumnTyping.h"
+#include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
 namespace typedtable {
+
+namespace {
+
+[[noreturn]] void ThrowChanged(long long line)
+{
+    throw TableError(line, Text("the file changed while it was read"));
+}
+
+}  // namespace
 
 TypedReader::TypedReader(ByteSource & source, Schema const & schema, std::vector<std::size_t> columns,
                          Collation const & collation)
@@ -23,16 +33,15 @@ TypedReader::TypedReader(ByteSource & source, Schema const & schema, std::vector
 
 bool TypedReader::Next()
 {
-    static constexpr char const * kChanged = "the file changed while it was read";
     if (!m_reader.Next())
         return false;
     auto const & cells = m_reader.GetCells();
     if (cells.size() != m_values.size())
-        throw TableError(m_reader.GetLine(), kChanged);
+        ThrowChanged(m_reader.GetLine());
     for (std::size_t const column : m_columns) {
         auto value = ReadCell(cells[column], m_schema.columns[column].type, m_collation);
         if (!value)
-            throw TableError(m_reader.GetLine(), kChanged);
+            ThrowChanged(m_reader.GetLine());
         m_values[column] = std::move(*value);
     }
     return true;

@@ -46,7 +46,9 @@ How texts are compared and searched
                        print the locales that there are, with their names and short dates, or those whose name has a match
                        of a regular expression, upper or lower case: --list-locales '^sv_|finland'
 
-  --help               print this text
+  --language LANG      print headings and messages in a language: de, es, fr and ja are there, English stands for others
+
+  --help               print this text, in English
 
 Exit code: 0, or 2 with one line on standard error if the file or the options are bad.
 )";

@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "typedtable/Texts.h"
+
 namespace typedtable {
 
 /// A wrong option, a bad file or a column that is not there. The text is UTF-8 and says all that the user needs; the
@@ -21,7 +23,7 @@ public:
     explicit TableError(std::string const & what) : UserError(what) {}
 
     /// "line 17: 6 cells where the header has 7". Lines count from 1.
-    TableError(long long line, std::string const & what) : UserError("line " + std::to_string(line) + ": " + what) {}
+    TableError(long long line, std::string const & what) : UserError(Text("line %1: %2", line, what)) {}
 };
 
 }  // namespace typedtable

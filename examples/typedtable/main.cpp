@@ -3,6 +3,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "typedtable/Options.h"
 #include "typedtable/Progress.h"
 #include "typedtable/Schema.h"
+#include "typedtable/Texts.h"
 #include "typedtable/TypedReader.h"
 #include "typedtable/UserError.h"
 #include "typedtable/ValueText.h"
@@ -80,7 +82,12 @@ void PrintFile(std::ostream & out, Options const & options)
 
 void Run(std::vector<std::string> const & arguments)
 {
+    std::optional<LanguageScope> language;
+    if (auto const name = FindLanguage(arguments))
+        language.emplace(*name);
     Options const options = ReadOptions(arguments);
+    if (language && !language->GetMissing().empty())
+        std::cerr << "typedtable: there are no texts in " << language->GetMissing() << "; these are in English\n";
     if (std::holds_alternative<HelpRequest>(options.task))
         std::cout << kUsage;
     else if (auto const * const explain = std::get_if<ExplainRequest>(&options.task))
@@ -90,7 +97,7 @@ void Run(std::vector<std::string> const & arguments)
     else
         PrintFile(std::cout, options);
     if (!std::cout.flush())
-        throw UserError("standard output cannot be written");
+        throw UserError(Text("standard output cannot be written"));
 }
 
 int Fail(std::string const & message)
