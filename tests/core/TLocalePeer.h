@@ -42,6 +42,8 @@ struct TLocalePeer
         auto const & formatter = locale.GetFormatterCache();
         return formatter == nullptr ? TString() : formatter->GetICUDateFormatter().toPattern();
     }
+    static TReadWriteLock & GetFormatLock(TLocale const & locale) { return locale.m_dateFormatCacheLock; }
+    static TRecursiveMutex & GetReadingMutex(TLocale const & locale) { return locale.m_parseMutex; }
     static bool ParsesNative(TLocale const & locale) { return locale.m_parseNative; }
     static bool CachesFormatter(TLocale const & locale) { return locale.m_cacheFormatter; }
 };

@@ -5,6 +5,9 @@
 
 #include <QtCore/QLocale>
 
+#include <chrono>
+#include <functional>
+#include <future>
 #include <initializer_list>
 #include <string>
 #include <thread>
@@ -14,6 +17,7 @@
 #include "tests/core/TLocalePeer.h"
 #include "tests/support/ErrorMatchers.h"
 #include "velcoredata/core/LanguageUtils.h"
+#include "velcoredata/data/DateTime.h"
 #include "velicu/ScopedStatusFault.h"
 
 using namespace test_support;
@@ -55,9 +59,13 @@ TEST(TLocale, ANameGoesToIcuAsItStandsAndIsResolvedAsALanguage)
         char const * market;
         LCID lcid;
     } const rows[] = {
-        {u"de_DE", "de_DE", "de_DE", "EU", 0x407}, {u"de", "de", "de_DE", "EU", 0x407},
-        {u"sv_SE", "sv_SE", "sv_SE", "", 0x41D},   {u"zh_Hant_TW", "zh_Hant_TW", "zh_TW", "China", 0x404},
-        {u"xx_YY", "xx_YY", "root", "", 0},        {u"", "", "", "", 0},
+        {u"de_DE", "de_DE", "de_DE", "EU", 0x407},
+        {u"de", "de", "de_DE", "EU", 0x407},
+        {u"sv_SE", "sv_SE", "sv_SE", "", 0x41D},
+        {u"zh_Hant_TW", "zh_Hant_TW", "zh_TW", "China", 0x404},
+        {u"xx_YY", "xx_YY", "root", "", 0},
+        {u"", "", "", "", 0},
+        {u"en_US-APAC", "en_US_APAC", "en_US", "APAC", 0x409},  // ICU takes the market for a variant
     };
     for (auto const & row : rows) {
         TLocale const locale{TString(row.name)};
@@ -111,6 +119,7 @@ TEST(TLocale, ACalendarReachesIcusLocaleOnlyAndDoesNotSurviveACopy)
     EXPECT_EQ(IcuName(assigned), "th_TH");
 
     EXPECT_EQ(IcuName(TLocale(0x41E, TString())), IcuName(TLocale(0x41E)));
+    EXPECT_EQ(TLocale(0, u"roc").getICULocale().getKeywordValue("calendar"), "roc");
 }
 
 TEST(TLocale, ACopyIsMadeFromTheIsoStringAlone)
@@ -284,6 +293,65 @@ TEST(TLocale, ImperialDistancesGoByTheCountry)
     for (auto const & row : rows)
         EXPECT_EQ(LanguageUtils::UsesImperialDistanceUnits(TLocale(TString(row.name))), row.imperial)
             << TString(row.name).toStdString();
+}
+
+namespace {
+
+DateTime const SOME_DAY(2020, 2, 29, 0, 0, 0, 0.0);
+
+// Whether an operation ends on another thread while this one keeps a lock. Lets the lock go before it waits for good.
+template <class Unlock>
+bool EndsUnderTheLock(std::function<void()> const & operation, Unlock unlock)
+{
+    auto const ending = std::async(std::launch::async, operation);
+    bool const ended = ending.wait_for(std::chrono::seconds(20)) == std::future_status::ready;
+    unlock();
+    return ended;
+}
+
+void ReadSomeDay(TLocale const & locale)
+{
+    DateTime read;
+    EXPECT_TRUE(locale.ParseDateTimeTryAllFormats(u"2020-02-29", read, ParseDateAndTime));
+    EXPECT_TRUE(read == SOME_DAY);
+}
+
+}  // namespace
+
+TEST(TLocale, PrintingDoesNotWaitForReading)
+{
+    TLocale const locale(u"en_US");
+    TRecursiveMutex & mutex = TLocalePeer::GetReadingMutex(locale);
+    mutex.Lock();
+    EXPECT_TRUE(EndsUnderTheLock([&] { EXPECT_EQ(locale.Format(SOME_DAY, DAY_PATTERN), TString(u"2020-02-29")); },
+                                 [&] { mutex.Unlock(); }));
+    EXPECT_FALSE(TLocalePeer::HasRead(locale));
+}
+
+TEST(TLocale, ReadingDoesNotWaitForPrinting)
+{
+    TLocale const locale(u"en_US");
+    TReadWriteLock & lock = TLocalePeer::GetFormatLock(locale);
+    lock.Lock();
+    EXPECT_TRUE(EndsUnderTheLock([&] { ReadSomeDay(locale); }, [&] { lock.Unlock(); }));
+    EXPECT_EQ(TLocalePeer::CountFormats(locale), 0u);
+}
+
+TEST(TLocale, CopyingAndPrintingAgainShareTheFormats)
+{
+    TLocale const locale(u"en_US");
+    locale.Format(SOME_DAY, DAY_PATTERN);
+    TReadWriteLock & lock = TLocalePeer::GetFormatLock(locale);
+    lock.LockRead();
+    EXPECT_TRUE(EndsUnderTheLock(
+        [&] {
+            EXPECT_EQ(locale.Format(SOME_DAY, DAY_PATTERN), TString(u"2020-02-29"));
+            EXPECT_EQ(TLocalePeer::CountFormats(TLocale(locale)), 1u);
+            TLocale assigned(u"de_DE");
+            assigned = locale;
+            EXPECT_EQ(TLocalePeer::CountFormats(assigned), 1u);
+        },
+        [&] { lock.UnlockRead(); }));
 }
 
 TEST(TLocale, ConstOperationsMayRunOnManyThreads)
