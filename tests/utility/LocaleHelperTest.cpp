@@ -87,6 +87,42 @@ TEST(LocaleHelper, TheWorkbooksLocaleComesFirst)
     CoreDataOptions::SetUseNonSessionSpecificLocale(false);
 }
 
+TEST(LocaleHelper, TheWorkbooksLocaleNeedsAnIsoStringButNoLcid)
+{
+    AnySessionScope const option;
+    ScopedSession const session;
+    PutLocale(u"default-locale", TLocale(u"fr_FR"));
+    auto const unknown = std::make_shared<TLocale>(TString(u"xx_YY"));  // the ISO string is "root"
+    Put(u"workbook-locale", unknown);
+    EXPECT_EQ(&LocaleHelper::GetSessionLocaleObject(), unknown.get());
+    EXPECT_EQ(LocaleHelper::GetSessionLCID(), 0u);
+    EXPECT_EQ(LocaleHelper::GetSessionLocale(), TString(u"root"));
+}
+
+TEST(LocaleHelper, TheWorkbooksCodeIsCopiedAndTheSessionsMadeAnew)
+{
+    AnySessionScope const option;
+    ScopedSession const session;
+    Put(u"default-locale", std::make_shared<TLocale>(TString(u"en_US-APAC")));
+    EXPECT_EQ(LocaleHelper::GetSessionLanguageCode().GetFullString(), TString(u"en_US-US"));
+    Put(u"workbook-locale", std::make_shared<TLocale>(TString(u"en_US-APAC")));
+    EXPECT_EQ(LocaleHelper::GetSessionLanguageCode().GetFullString(), TString(u"en_US-APAC"));
+    Put(u"workbook-locale", std::make_shared<TLocale>(1024u));
+    EXPECT_EQ(LocaleHelper::GetSessionLCID(), 1024u);
+}
+
+// The object's LCID is the one it was given, the code's that of its ISO string, "root".
+TEST(LocaleHelper, AnUnknownLcidStandsForTheObjectAndNotForTheCode)
+{
+    AnySessionScope const option;
+    DefaultLocaleScope const processDefault(u"it_IT");
+    ScopedSession const session;
+    auto const unknown = std::make_shared<TLocale>(0xFFFFu);
+    Put(u"default-locale", unknown);
+    EXPECT_EQ(&LocaleHelper::GetSessionLocaleObject(), unknown.get());
+    EXPECT_EQ(LocaleHelper::GetSessionLCID(), 0x410u);
+}
+
 TEST(LocaleHelper, WithoutAWorkbooksLocaleTheUsersDefaultStands)
 {
     ScopedSession const session;
