@@ -69,6 +69,14 @@ TEST(ICUUtilsLocaleDates, PatternsPrintInTheLanguageOfTheLcid)
     EXPECT_EQ(ICUUtils::FormatDateTimePattern(TDATE, u"yyyy", 0x41E), TString(u"2020"));  // Gregorian in Thailand too
 }
 
+// A formatter is made for the locale object, whose name for 4096 is that of the pseudo-locale.
+TEST(ICUUtilsLocaleDates, FormattersOfTheBidirectionalPseudoLocaleAreArabic)
+{
+    TString const saturday(u"\u0627\u0644\u0633\u0628\u062A");
+    EXPECT_EQ(ICUUtils::GetDateTimeFormatter(u"EEEE", 4096)->format(TDATE), saturday);
+    EXPECT_EQ(ICUUtils::FormatDateTimePattern(TDATE, u"EEEE", 4096), saturday);
+}
+
 TEST(ICUUtilsLocaleDates, SkeletonsPrintByTheBestPattern)
 {
     EXPECT_EQ(ICUUtils::FormatBestDateTimePattern(MOMENT, u"yMMMd", ENGLISH), TString(u"Feb 29, 2020"));

@@ -31,6 +31,17 @@ TEST(ICUUtilsLocales, NamesOfDaysMonthsAndQuarters)
     EXPECT_EQ(ICUUtils::GetShortQuarterName(0x40C), u"T");
 }
 
+// Names go by the narrow name of an LCID, which knows no pseudo-locale.
+TEST(ICUUtilsLocales, NamesOfTheBidirectionalPseudoLocaleAreTheUsers)
+{
+    EXPECT_EQ(ICUUtils::GetLongDayName(1, 4096), u"Sunday");
+    EXPECT_EQ(ICUUtils::GetLongMonthName(1, 4096), u"January");
+    EXPECT_EQ(ICUUtils::GetShortQuarterName(4096), u"Q");
+    EXPECT_EQ(ICUUtils::GetDisplayName(4096, 0x409), u"English (United States)");
+    EXPECT_EQ(ICUUtils::GetBestDateTimePattern(u"yMMMd", 4096), u"MMM d, y");
+    EXPECT_STREQ(CoreICUUtils::GetLocale(4096)->getName(), "en_US");
+}
+
 TEST(ICUUtilsLocales, DisplayNames)
 {
     EXPECT_EQ(ICUUtils::GetDisplayName(0x407, 0x409), u"German (Germany)");
