@@ -26,3 +26,8 @@ run examples/data/airports.csv --sort name --collation LEN_RUS_S2 --rows 10
 run examples/data/airports.csv --find lafayette --sort city --locale en_US --ignore-case
 run examples/data/weather.csv --group-by date:year --max temp_max --language de
 run --explain-collation LEN_RUS_S2
+run examples/data/seattle-months.csv --dates-in en_US --rows 3
+run examples/data/seattle-months.csv --dates-in en_US --dates-as "d. MMMM yyyy" --locale de_DE --where 'warmest > 33'
+run examples/data/seattle-months.csv --dates-in en_US --group-by month:year --sum precipitation --max warmest
+run --date-order en_US
+run --date-order de_DE

@@ -80,7 +80,7 @@ private:
         if (equals != std::string::npos)
             m_attached = argument.substr(equals + 1);
         if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name) &&
-            !ReadListLocales(name))
+            !ReadListLocales(name) && !ReadDateOption(name))
             throw UserError(Text("unknown option \"%1\"; typedtable --help lists them", name));
         if (m_attached)
             throw UserError(Text("%1 takes no value", name));
@@ -166,6 +166,21 @@ private:
         return true;
     }
 
+    bool ReadDateOption(std::string const & name)
+    {
+        std::optional<std::string> * const place = name == "--dates-in"     ? &m_dates.datesIn
+                                                   : name == "--dates-as"   ? &m_dates.datesAs
+                                                   : name == "--date-order" ? &m_dateOrder
+                                                                            : nullptr;
+        if (place == nullptr)
+            return false;
+        std::string value = TakeValue(name);
+        if (value.empty())
+            throw UserError(Text("%1: the value is empty", name));
+        SetOnce(*place, name, std::move(value));
+        return true;
+    }
+
     // The text behind "=", else the next argument.
     std::string TakeValue(std::string const & option)
     {
@@ -201,6 +216,12 @@ private:
             options.task = LocalesRequest{*m_locales};
             return options;
         }
+        if (m_dateOrder) {
+            if (m_file || m_options > 1)
+                throw UserError(Text("%1 stands alone", "--date-order"));
+            options.task = DateOrderRequest{*m_dateOrder};
+            return options;
+        }
         if (!m_file)
             throw UserError(Text("no file is given; typedtable --help shows the usage"));
         options.file = *m_file;
@@ -209,6 +230,8 @@ private:
             options.filter.where = ReadCondition(*m_where);
         options.filter.find = m_find;
         options.collation = FinishCollation();
+        options.dates = m_dates;
+        options.dates.locale = m_locale;
         if (m_sqlNulls && !m_where && !m_sort &&
             !HasItem([](AggregateKind kind) { return kind != AggregateKind::Count; }))
             throw UserError(Text("--sql-nulls needs --where, --sort, --sum, --mean, --min or --max"));
@@ -267,9 +290,10 @@ private:
         bool const isUsed = m_sort || m_distinct || m_find || m_where || HasItem([](AggregateKind kind) {
                                 return kind == AggregateKind::Min || kind == AggregateKind::Max;
                             });
-        if ((m_collation || m_locale) && !isUsed)
-            throw UserError(Text("%1 needs --sort, --distinct, --find, --where, --min or --max",
-                                 m_collation ? "--collation" : "--locale"));
+        if (m_collation && !isUsed)
+            throw UserError(Text("%1 needs --sort, --distinct, --find, --where, --min or --max", "--collation"));
+        if (m_locale && !isUsed && !m_dates.datesAs)
+            throw UserError(Text("--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as"));
         return {m_collation, m_locale, m_ignoreCase, m_ignoreAccents, m_wordSort};
     }
 
@@ -298,6 +322,8 @@ private:
     std::optional<std::string> m_explain;
     std::optional<std::string> m_locales;
     std::optional<std::string> m_language;  // FindLanguage has it
+    std::optional<std::string> m_dateOrder;
+    DateChoice m_dates;
     bool m_ignoreCase = false;
     bool m_ignoreAccents = false;
     bool m_wordSort = false;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "typedtable/CollationChoice.h"
+#include "typedtable/DateChoice.h"
 #include "typedtable/Distinct.h"
 #include "typedtable/GroupBy.h"
 #include "typedtable/Listing.h"
@@ -34,13 +35,14 @@ struct SchemaRequest
 struct Options
 {
     /// What the program does. The last four read the rows a second time.
-    using Task = std::variant<HelpRequest, ExplainRequest, LocalesRequest, SchemaRequest, ListingRequest,
-                              SummaryRequest, DistinctRequest, GroupByRequest>;
+    using Task = std::variant<HelpRequest, ExplainRequest, LocalesRequest, DateOrderRequest, SchemaRequest,
+                              ListingRequest, SummaryRequest, DistinctRequest, GroupByRequest>;
 
     Task task;
-    std::string file;  // "-" is standard input; empty for the first three tasks
+    std::string file;  // "-" is standard input; empty for the first four tasks
     FilterRequest filter;
     CollationChoice collation;
+    DateChoice dates;
     bool sqlNulls = false;
 };
 

@@ -6,6 +6,7 @@
 
 #include "typedtable/ColumnTyping.h"
 #include "typedtable/CsvReader.h"
+#include "typedtable/DateColumns.h"
 #include "typedtable/Progress.h"
 #include "typedtable/TextTable.h"
 #include "typedtable/Texts.h"
@@ -99,6 +100,7 @@ void PrintSchema(std::ostream & out, std::string const & fileName, Schema const 
         table.AddRow({OnOneLine(column.name), DataValue::DataTypeToString(column.type).toStdString(),
                       std::to_string(column.nulls)});
     table.Print(out);
+    PrintDates(out, schema);
     if (schema.firstRows.rows.empty())
         return;
     out << '\n';

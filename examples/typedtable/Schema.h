@@ -3,10 +3,12 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "typedtable/ByteSource.h"
+#include "typedtable/DateInference.h"
 #include "typedtable/Table.h"
 
 namespace typedtable {
@@ -19,6 +21,7 @@ struct Schema
         std::string name;  // UTF-8; "column 3" where the header has an empty cell
         DataType type;     // one of those that ReadCell reads
         long long nulls;
+        std::shared_ptr<DateColumn const> dates = nullptr;  // of a column whose texts are dates: FindDates
     };
 
     std::vector<Column> columns;

@@ -39,7 +39,9 @@ bool TypedReader::Next()
     if (cells.size() != m_values.size())
         ThrowChanged(m_reader.GetLine());
     for (std::size_t const column : m_columns) {
-        auto value = ReadCell(cells[column], m_schema.columns[column].type, m_collation);
+        auto const & dates = m_schema.columns[column].dates;
+        auto value =
+            dates ? dates->Read(cells[column]) : ReadCell(cells[column], m_schema.columns[column].type, m_collation);
         if (!value)
             ThrowChanged(m_reader.GetLine());
         m_values[column] = std::move(*value);

@@ -10,6 +10,7 @@ char const * const kUsage =
        typedtable FILE --group-by COLUMN:PERIOD [--sum|--mean|--min|--max COLUMN]... [--count]
        typedtable --explain-collation NAME
        typedtable --list-locales [PATTERN]
+       typedtable --date-order LOCALE
 
 Reads a CSV file (UTF-8, with a header), types its columns, and prints the columns with their types and counts of nulls,
 and the first rows. With more options it prints rows, sums, or groups instead. FILE may be - for standard input.
@@ -45,6 +46,14 @@ How texts are compared and searched
   --list-locales [PATTERN]
                        print the locales that there are, with their names and short dates, or those whose name has a match
                        of a regular expression, upper or lower case: --list-locales '^sv_|finland'
+
+How dates are read and printed, with every task
+  --dates-in LOCALE    columns of texts that are dates as people write them in the locale become columns of dates.
+                       Below the columns stand the pattern that reads most cells, how many are written in another
+                       way, and how many are dates with the day first and with the month first
+  --dates-as PATTERN   print dates by a pattern in ICU's letters, "d. MMMM yyyy", in the words of --locale or else of the
+                       user's locale
+  --date-order LOCALE  print in which order a locale writes day, month and year
 
   --language LANG      print headings and messages in a language: de, es, fr and ja are there, English stands for others
 

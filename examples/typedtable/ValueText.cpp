@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "typedtable/DatePrinting.h"
 #include "velcoredata/data/DateTime.h"
 #include "velcoreplatform/TString.h"
 
@@ -11,6 +12,8 @@ namespace {
 
 std::string DateText(DateTime const & value)
 {
+    if (DatePrinting const * const printing = DatePrinting::Current())
+        return printing->TextOf(value);
     DateTime::YearMonthDay const parts = value.GetYearMonthDay();
     char text[40];
     std::snprintf(text, sizeof text, "%04d-%02d-%02d", parts.year, parts.month, parts.day);
@@ -19,6 +22,8 @@ std::string DateText(DateTime const & value)
 
 std::string DateTimeText(DateTime const & value)
 {
+    if (DatePrinting::Current() != nullptr)
+        return DateText(value);
     char text[40];
     std::snprintf(text, sizeof text, " %02d:%02d:%02d", value.GetHour(), value.GetMinute(), value.GetSecond());
     std::string result = DateText(value) + text;

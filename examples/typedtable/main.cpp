@@ -8,6 +8,9 @@
 #include <variant>
 #include <vector>
 
+#include "typedtable/DateChoice.h"
+#include "typedtable/DateColumns.h"
+#include "typedtable/DatePrinting.h"
 #include "typedtable/InputFile.h"
 #include "typedtable/Options.h"
 #include "typedtable/Progress.h"
@@ -45,9 +48,17 @@ std::unique_ptr<RowSink> MakeSink(Options const & options, Schema const & schema
     return std::make_unique<GroupBy>(std::get<GroupByRequest>(options.task), schema, nulls);
 }
 
+Schema ReadTypes(Options const & options, InputFile & file, std::size_t firstRows)
+{
+    Schema schema = ReadSchema(file, firstRows);
+    if (options.dates.datesIn)
+        FindDates(file, schema, MakeLocale("--dates-in", *options.dates.datesIn));
+    return schema;
+}
+
 void PrintRows(std::ostream & out, Options const & options, Collation const & collation, InputFile & file)
 {
-    Schema const schema = ReadSchema(file, 0);
+    Schema const schema = ReadTypes(options, file, 0);
     auto const sink = MakeSink(options, schema);
     RowFilter const filter(options.filter, schema, collation, options.sqlNulls);
     std::vector<std::size_t> columns = sink->GetColumns();
@@ -69,10 +80,14 @@ void PrintFile(std::ostream & out, Options const & options)
 {
     Collation const collation = MakeCollation(options.collation);
     auto const * const schema = std::get_if<SchemaRequest>(&options.task);
-    InputFile file(options.file, schema ? InputFile::Readings::Once : InputFile::Readings::Twice);
+    DatePrinting const printing(options.dates);
+    if (options.dates.datesIn)
+        MakeLocale("--dates-in", *options.dates.datesIn);  // refused before the file is read
+    bool const readsOnce = schema != nullptr && !options.dates.datesIn;
+    InputFile file(options.file, readsOnce ? InputFile::Readings::Once : InputFile::Readings::Twice);
     try {
         if (schema)
-            PrintSchema(out, file.GetName(), ReadSchema(file, schema->rows));
+            PrintSchema(out, file.GetName(), ReadTypes(options, file, schema->rows));
         else
             PrintRows(out, options, collation, file);
     } catch (TableError const & error) {
@@ -94,6 +109,8 @@ void Run(std::vector<std::string> const & arguments)
         ExplainCollation(std::cout, explain->collation);
     else if (auto const * const locales = std::get_if<LocalesRequest>(&options.task))
         PrintLocales(std::cout, *locales);
+    else if (auto const * const order = std::get_if<DateOrderRequest>(&options.task))
+        PrintDateOrder(std::cout, *order);
     else
         PrintFile(std::cout, options);
     if (!std::cout.flush())

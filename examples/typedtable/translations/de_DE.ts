@@ -403,5 +403,69 @@
         <source>yes</source>
         <translation>ja</translation>
     </message>
+    <message>
+        <source>day, month, year</source>
+        <translation>Tag, Monat, Jahr</translation>
+    </message>
+    <message>
+        <source>month, day, year</source>
+        <translation>Monat, Tag, Jahr</translation>
+    </message>
+    <message>
+        <source>year, month, day</source>
+        <translation>Jahr, Monat, Tag</translation>
+    </message>
+    <message>
+        <source>year, day, month</source>
+        <translation>Jahr, Tag, Monat</translation>
+    </message>
+    <message>
+        <source>no order</source>
+        <translation>keine Reihenfolge</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a known locale, as de_DE is</source>
+        <translation>%1: „%2“ ist kein bekanntes Gebietsschema wie de_DE</translation>
+    </message>
+    <message>
+        <source>--dates-as: "%1" is not a pattern of dates, as "d. MMMM yyyy" is</source>
+        <translation>--dates-as: „%1“ ist kein Muster für Daten wie „d. MMMM yyyy“</translation>
+    </message>
+    <message>
+        <source>%1 rows searched for dates</source>
+        <translation>%1 Zeilen nach Daten durchsucht</translation>
+    </message>
+    <message>
+        <source>dates</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>cells</source>
+        <translation>Zellen</translation>
+    </message>
+    <message>
+        <source>disagree</source>
+        <translation>abweichend</translation>
+    </message>
+    <message>
+        <source>day first</source>
+        <translation>Tag zuerst</translation>
+    </message>
+    <message>
+        <source>month first</source>
+        <translation>Monat zuerst</translation>
+    </message>
+    <message>
+        <source>(own styles)</source>
+        <translation>(eigene Formen)</translation>
+    </message>
+    <message>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
+        <translation>--locale braucht --sort, --distinct, --find, --where, --min, --max oder --dates-as</translation>
+    </message>
 </context>
 </TS>

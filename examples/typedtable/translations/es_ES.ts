@@ -403,5 +403,69 @@
         <source>yes</source>
         <translation>sí</translation>
     </message>
+    <message>
+        <source>day, month, year</source>
+        <translation>día, mes, año</translation>
+    </message>
+    <message>
+        <source>month, day, year</source>
+        <translation>mes, día, año</translation>
+    </message>
+    <message>
+        <source>year, month, day</source>
+        <translation>año, mes, día</translation>
+    </message>
+    <message>
+        <source>year, day, month</source>
+        <translation>año, día, mes</translation>
+    </message>
+    <message>
+        <source>no order</source>
+        <translation>sin orden</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a known locale, as de_DE is</source>
+        <translation>%1: «%2» no es una configuración regional conocida, como lo es de_DE</translation>
+    </message>
+    <message>
+        <source>--dates-as: "%1" is not a pattern of dates, as "d. MMMM yyyy" is</source>
+        <translation>--dates-as: «%1» no es un patrón de fechas, como lo es «d. MMMM yyyy»</translation>
+    </message>
+    <message>
+        <source>%1 rows searched for dates</source>
+        <translation>%1 filas examinadas en busca de fechas</translation>
+    </message>
+    <message>
+        <source>dates</source>
+        <translation>fechas</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>patrón</translation>
+    </message>
+    <message>
+        <source>cells</source>
+        <translation>celdas</translation>
+    </message>
+    <message>
+        <source>disagree</source>
+        <translation>en desacuerdo</translation>
+    </message>
+    <message>
+        <source>day first</source>
+        <translation>primero el día</translation>
+    </message>
+    <message>
+        <source>month first</source>
+        <translation>primero el mes</translation>
+    </message>
+    <message>
+        <source>(own styles)</source>
+        <translation>(formas propias)</translation>
+    </message>
+    <message>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
+        <translation>--locale necesita --sort, --distinct, --find, --where, --min, --max o --dates-as</translation>
+    </message>
 </context>
 </TS>

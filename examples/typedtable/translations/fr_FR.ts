@@ -403,5 +403,69 @@
         <source>yes</source>
         <translation>oui</translation>
     </message>
+    <message>
+        <source>day, month, year</source>
+        <translation>jour, mois, année</translation>
+    </message>
+    <message>
+        <source>month, day, year</source>
+        <translation>mois, jour, année</translation>
+    </message>
+    <message>
+        <source>year, month, day</source>
+        <translation>année, mois, jour</translation>
+    </message>
+    <message>
+        <source>year, day, month</source>
+        <translation>année, jour, mois</translation>
+    </message>
+    <message>
+        <source>no order</source>
+        <translation>aucun ordre</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a known locale, as de_DE is</source>
+        <translation>%1 : « %2 » n’est pas un paramètre régional connu, comme de_DE</translation>
+    </message>
+    <message>
+        <source>--dates-as: "%1" is not a pattern of dates, as "d. MMMM yyyy" is</source>
+        <translation>--dates-as : « %1 » n’est pas un modèle de date, comme « d. MMMM yyyy »</translation>
+    </message>
+    <message>
+        <source>%1 rows searched for dates</source>
+        <translation>%1 lignes examinées pour des dates</translation>
+    </message>
+    <message>
+        <source>dates</source>
+        <translation>dates</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>modèle</translation>
+    </message>
+    <message>
+        <source>cells</source>
+        <translation>cellules</translation>
+    </message>
+    <message>
+        <source>disagree</source>
+        <translation>en désaccord</translation>
+    </message>
+    <message>
+        <source>day first</source>
+        <translation>jour d’abord</translation>
+    </message>
+    <message>
+        <source>month first</source>
+        <translation>mois d’abord</translation>
+    </message>
+    <message>
+        <source>(own styles)</source>
+        <translation>(formes propres)</translation>
+    </message>
+    <message>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
+        <translation>--locale nécessite --sort, --distinct, --find, --where, --min, --max ou --dates-as</translation>
+    </message>
 </context>
 </TS>

@@ -403,5 +403,69 @@
         <source>yes</source>
         <translation>はい</translation>
     </message>
+    <message>
+        <source>day, month, year</source>
+        <translation>日、月、年</translation>
+    </message>
+    <message>
+        <source>month, day, year</source>
+        <translation>月、日、年</translation>
+    </message>
+    <message>
+        <source>year, month, day</source>
+        <translation>年、月、日</translation>
+    </message>
+    <message>
+        <source>year, day, month</source>
+        <translation>年、日、月</translation>
+    </message>
+    <message>
+        <source>no order</source>
+        <translation>順序なし</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a known locale, as de_DE is</source>
+        <translation>%1：「%2」は de_DE のような既知のロケールではありません</translation>
+    </message>
+    <message>
+        <source>--dates-as: "%1" is not a pattern of dates, as "d. MMMM yyyy" is</source>
+        <translation>--dates-as：「%1」は「d. MMMM yyyy」のような日付のパターンではありません</translation>
+    </message>
+    <message>
+        <source>%1 rows searched for dates</source>
+        <translation>%1 行の日付を調べました</translation>
+    </message>
+    <message>
+        <source>dates</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>cells</source>
+        <translation>セル</translation>
+    </message>
+    <message>
+        <source>disagree</source>
+        <translation>不一致</translation>
+    </message>
+    <message>
+        <source>day first</source>
+        <translation>日が先</translation>
+    </message>
+    <message>
+        <source>month first</source>
+        <translation>月が先</translation>
+    </message>
+    <message>
+        <source>(own styles)</source>
+        <translation>（固有の書式）</translation>
+    </message>
+    <message>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
+        <translation>--locale には --sort、--distinct、--find、--where、--min、--max、--dates-as のいずれかが必要です</translation>
+    </message>
 </context>
 </TS>
