@@ -3,7 +3,9 @@
 #include <unicode/dtfmtsym.h>
 #include <unicode/parsepos.h>
 #include <unicode/smpdtfmt.h>
+#include <unicode/uchar.h>
 
+#include <utility>
 #include <vector>
 
 #include "NativeCalendar.h"
@@ -71,6 +73,35 @@ std::unique_ptr<ICUDateFormat> MakeStyled(icu::DateFormat * made, icu::Locale co
     UErrorCode status = ::U_ZERO_ERROR;
     format = OnOwnCalendar(std::move(format), locale, status);
     return format == nullptr ? nullptr : std::make_unique<ICUDateFormat>(Wrap(std::move(format)));
+}
+
+// Texts that ICU must not see. It divides by 10 to the power of the digits of a fraction of a second less three, in 32
+// bits: from 35 digits on, the divisor is zero and the process dies; a number may have an exponent, so two runs of
+// digits may belong to one. And its time is quadratic in the digits of a number, which from 309 on it reads as zero.
+constexpr int DEADLY_FRACTION = 35;
+constexpr int ENDLESS_NUMBER = 300;  // digits without leading zeros
+
+bool IsUnreadable(icu::SimpleDateFormat const & format, icu::UnicodeString const & text)
+{
+    if (text.length() < DEADLY_FRACTION)
+        return false;
+    int before = 0;
+    int run = 0;
+    int significant = 0;
+    bool fraction = false;
+    for (std::int32_t i = 0; i < text.length(); i = text.moveIndex32(i, 1)) {
+        UChar32 const character = text.char32At(i);
+        if (u_isdigit(character)) {
+            fraction = fraction || before + ++run >= DEADLY_FRACTION;
+            if ((significant > 0 || u_charDigitValue(character) > 0) && ++significant > ENDLESS_NUMBER)
+                return true;
+        } else if (run > 0) {
+            before = std::exchange(run, 0);
+            significant = 0;
+        }
+    }
+    icu::UnicodeString pattern;
+    return fraction && format.toPattern(pattern).indexOf(u'S') >= 0;
 }
 
 icu::DateFormat::EStyle NativeStyle(ICUDateFormat::ICUEStyle style)
@@ -162,13 +193,15 @@ double ICUDateFormat::parse(TString const & text, ICUErrorCode & status) const
     StatusScope scope(status);
     if (m_native->format == nullptr)
         scope.Fail(::U_INVALID_STATE_ERROR);
+    else if (IsUnreadable(*m_native->format, AliasOf(text)))
+        scope.Fail(::U_ILLEGAL_ARGUMENT_ERROR);
     return scope.Failed() ? 0.0 : m_native->format->parse(AliasOf(text), scope);
 }
 
 void ICUDateFormat::parse(TString const & text, ICUCalendar & calendar, ICUParsePosition & position) const
 {
     icu::ParsePosition & native = position.GetNative().position;
-    if (m_native->format == nullptr)
+    if (m_native->format == nullptr || IsUnreadable(*m_native->format, AliasOf(text)))
         native.setErrorIndex(native.getIndex());
     else
         m_native->format->parse(AliasOf(text), *calendar.GetNative().calendar, native);

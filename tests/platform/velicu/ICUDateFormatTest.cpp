@@ -108,6 +108,29 @@ TEST(ICUDateFormat, ParsesIntoACalendarAndTellsByThePosition)
     EXPECT_EQ(5, bad->getErrorIndex());
 }
 
+TEST(ICUDateFormat, NumbersThatIcuCannotBearAreNotRead)
+{
+    auto const reads = [](char16_t const * pattern, std::u16string const & text) {
+        ICUErrorCode status = U_ZERO_ERROR;
+        auto const calendar = ICUCalendar::createInstance(status);
+        auto const position = ICUParsePosition::createInstance();
+        auto const format = FormatFor(pattern, "en_US");
+        format->parse(TString::fromStdU16String(text), *calendar, *position);
+        format->parse(TString::fromStdU16String(text), status);
+        EXPECT_EQ(position->getErrorIndex() == -1, ICU_SUCCESS(status));
+        return position->getErrorIndex() == -1 && position->getIndex() == static_cast<int>(text.size());
+    };
+    EXPECT_TRUE(reads(u"s.S", u"5." + std::u16string(33, u'1')));
+    EXPECT_FALSE(reads(u"s.S", u"5." + std::u16string(34, u'1')));
+    EXPECT_FALSE(reads(u"S", std::u16string(35, u'1')));
+    EXPECT_FALSE(reads(u"S", u"1e" + std::u16string(34, u'0')));
+    EXPECT_TRUE(reads(u"y", std::u16string(34, u'0') + u"2020"));
+    EXPECT_FALSE(reads(u"S y", u"1 " + std::u16string(33, u'0') + u"2020"));
+    EXPECT_TRUE(reads(u"S y", u"1 " + std::u16string(29, u'0') + u"2020"));
+    EXPECT_FALSE(reads(u"H", std::u16string(301, u'1')));
+    EXPECT_TRUE(reads(u"H", std::u16string(301, u'0') + u"7"));
+}
+
 TEST(ICUDateFormat, FormatsACalendarByItsOwnMoment)
 {
     auto const format = FormatFor(u"yyyy-MM-dd HH:mm", "en_US");

@@ -63,6 +63,10 @@ public:
     TString format(double milliseconds, ICUErrorCode & status) const;
     TString format(ICUCalendar & calendar, ICUFieldPosition & position) const;
 
+    // Two kinds of text are refused unread, at index 0: with a number of more than 300 digits, leading zeros apart;
+    // and, by a pattern with fractions of a second, with 35 digits or more in two neighbouring numbers. Of the first
+    // ICU makes zero in quadratic time, of the second a division by zero.
+
     // The start of the text as milliseconds; a text that does not fit is a failure, what follows the date is ignored.
     double parse(TString const & text, ICUErrorCode & status) const;
     // Fills the fields of the calendar; success and the end are told by the position alone.
