@@ -108,7 +108,10 @@ public:
     //   locale.ParseDateTimeTryAllFormats(u"01/02/2020", date, ParseDateAndTime);  // 1 February
     //
     // and a search that succeeded, repeated at once with ParseDateAndTime and without a reference, gives the same
-    // value. With setCacheFormatter(false) a search does not depend on what was read before.
+    // value.
+    // With setCacheFormatter(false) a search in a locale of "en_US" does not depend on what was read before. In other
+    // locales it still may: a search that had to try the locale's styles leaves a formatter of ICU's that is lenient,
+    // and the next search applies its patterns to that.
     //
     // One thread reads at a time, others wait. All raise logic assertions where ICU fails to build what reading needs:
     // "VelICU::ICU_SUCCESS(success)" as LogicException_LogicAssert_0xBD3A59A6 (the calendar), 0xC71ECD6B, 0x71D7BADA,
