@@ -35,7 +35,7 @@ TEST(TLocaleDateNative, IsAskedLastAndRemembered)
     EXPECT_TRUE(TLocalePeer::ReadNativeLast(locale));
     // The memory gets its try before the table and leaves the formatter alone.
     EXPECT_EQ(TLocalePeer::CountReadings(locale), 1);
-    EXPECT_EQ(Search(locale, u"2020-01-02"), DateTime(2020, 1, 2, 0, 0, 0, 0.0));
+    EXPECT_EQ(Search(locale, u"13-Oct"), DateTime(1899, 10, 13, 0, 0, 0, 0.0));
     EXPECT_FALSE(TLocalePeer::ReadNativeLast(locale));
 }
 
