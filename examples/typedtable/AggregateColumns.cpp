@@ -12,10 +12,10 @@ std::string TitleOf(AggregateItem const & item)
 {
     switch (item.kind) {
     case AggregateKind::Count: break;
-    case AggregateKind::Sum: return Text("sum(%1)", item.column);
-    case AggregateKind::Mean: return Text("mean(%1)", item.column);
-    case AggregateKind::Min: return Text("min(%1)", item.column);
-    case AggregateKind::Max: return Text("max(%1)", item.column);
+    case AggregateKind::Sum: return Text("sum(%1)", item.column.name);
+    case AggregateKind::Mean: return Text("mean(%1)", item.column.name);
+    case AggregateKind::Min: return Text("min(%1)", item.column.name);
+    case AggregateKind::Max: return Text("max(%1)", item.column.name);
     }
     return Text("count");
 }
@@ -33,7 +33,7 @@ AggregateColumns::AggregateColumns(std::vector<AggregateItem> const & items, Sch
         std::size_t const column = schema.Find(item.column);
         DataType const type = schema.columns[column].type;
         if (!CanAggregate(item.kind, type))
-            throw TableError(Text("--%1: column \"%2\" is %3, not a number", NameOf(item.kind), item.column,
+            throw TableError(Text("--%1: column \"%2\" is %3, not a number", NameOf(item.kind), item.column.name,
                                   DataValue::DataTypeToString(type).toStdString()));
         m_items.push_back({item.kind, column, type, TitleOf(item)});
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "typedtable/Aggregate.h"
+#include "typedtable/ColumnName.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
 #include "typedtable/TypedReader.h"
@@ -15,7 +16,7 @@ namespace typedtable {
 struct AggregateItem
 {
     AggregateKind kind;
-    std::string column;  // empty for a count
+    ColumnName column;  // empty for a count
 };
 
 /// The items of a request, each with its column in a file.

@@ -1,5 +1,6 @@
 #include "typedtable/Condition.h"
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <optional>
@@ -100,22 +101,24 @@ std::optional<DataValue> ReadLiteral(std::string_view text)
 Condition ReadCondition(std::string const & text)
 {
     std::string_view rest = WithoutBlanks(text);
-    std::string column;
+    ColumnName column;
     if (rest.starts_with('"')) {
         auto const quoted = TakeQuoted(rest);
         if (!quoted)
             Refuse(text);
-        column = *quoted;
+        column.name = *quoted;
     } else {
-        std::size_t const end = rest.find_first_of("=!<>");
-        if (end == std::string_view::npos)
-            Refuse(text);
-        column = WithoutBlanks(rest.substr(0, end));
+        static constexpr std::string_view kSigns = "=!<>";
+        std::size_t const end = rest.starts_with('[') ? LengthOfQualifiedName(rest, kSigns)
+                                                      : std::min(rest.find_first_of(kSigns), rest.size());
+        column = ReadColumnName("--where", std::string(WithoutBlanks(rest.substr(0, end))));
         rest.remove_prefix(end);
+        if (rest.empty())
+            Refuse(text);
     }
     rest = WithoutBlanks(rest);
     for (Spelling const & spelling : kSpellings) {
-        if (column.empty() || !rest.starts_with(spelling.text))
+        if (column.name.empty() || !rest.starts_with(spelling.text))
             continue;
         std::string_view const literal = WithoutBlanks(rest.substr(spelling.text.size()));
         auto value = ReadLiteral(literal);

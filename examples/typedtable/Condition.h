@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "typedtable/ColumnName.h"
 #include "velcoredata/data/DataValue.h"
 
 namespace typedtable {
@@ -20,13 +21,14 @@ enum class Comparison
 /// `temp_max > 20`.
 struct Condition
 {
-    std::string column;
+    ColumnName column;
     Comparison comparison;
     DataValue literal;  // a text has the unknown collation; `null` is a typeless null
 };
 
 /// Reads COLUMN COMPARISON LITERAL, blanks between them as one likes. The comparison is the first of = != < <= > >=;
-/// a column whose name holds one of them stands in double quotes: `"a<b" > 3`. Literals:
+/// a column whose name holds one of them stands in double quotes, `"a<b" > 3`, or is a qualified name, `[a<b] > 3`.
+/// Literals:
 ///
 ///   20  -0.5  1e3         Integer or Real, as cells are read
 ///   "rain"  'rain'        text; a quote inside is written twice

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "typedtable/AggregateColumns.h"
+#include "typedtable/ColumnName.h"
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Texts.h"
@@ -15,7 +16,7 @@ namespace typedtable {
 
 struct DistinctRequest
 {
-    std::string column;
+    ColumnName column;
     std::vector<AggregateItem> items;
 };
 

@@ -50,7 +50,7 @@ GroupBy::GroupBy(GroupByRequest const & request, Schema const & schema, Nulls nu
     DataType const dateType = schema.columns[m_dateColumn].type;
     if (!IsTemporal(dateType))
         throw TableError(
-            Text("--group-by: column \"%1\" is %2, not DATE or DATETIME", request.column, TypeName(dateType)));
+            Text("--group-by: column \"%1\" is %2, not DATE or DATETIME", request.column.name, TypeName(dateType)));
 }
 
 std::vector<std::size_t> GroupBy::GetColumns() const
@@ -122,7 +122,7 @@ Table GroupBy::GetResult() const
 {
     Table table;
     bool const hasNames = HasNames();
-    table.columns.push_back({m_request.column + ":" + m_request.periodName, DataType::Date});
+    table.columns.push_back({m_request.column.name + ":" + m_request.periodName, DataType::Date});
     if (hasNames)
         table.columns.push_back({TitleOfNames(m_request.period), DataType::String});
     m_items.AppendTitles(table);

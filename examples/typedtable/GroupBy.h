@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "typedtable/AggregateColumns.h"
+#include "typedtable/ColumnName.h"
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
@@ -22,7 +23,7 @@ namespace typedtable {
 /// What the user asked for.
 struct GroupByRequest
 {
-    std::string column;
+    ColumnName column;
     std::string periodName;  // "quarter", as the option has it
     DatePeriodType period = DatePeriodType::Year;
     std::shared_ptr<IDateOptions const> options;  // the calendar that the period is counted in

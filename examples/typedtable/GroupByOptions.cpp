@@ -68,9 +68,14 @@ GroupByRequest MakeGroupByRequest(std::string const & text, std::optional<int> f
     GroupByRequest request;
     // A column's name may hold a colon, a period's does not.
     std::size_t const colon = text.rfind(':');
-    if (colon == std::string::npos || colon == 0)
+    // Nor does a colon within the brackets of a qualified name end it.
+    bool const isInside =
+        colon != std::string::npos && text.starts_with('[') && LengthOfQualifiedName(text, ":") > colon;
+    if (isInside)
+        ReadColumnName("--group-by", text);
+    if (colon == std::string::npos || colon == 0 || isInside)
         throw UserError(Text("--group-by: \"%1\" is not COLUMN:PERIOD", text));
-    request.column = text.substr(0, colon);
+    request.column = ReadColumnName("--group-by", text.substr(0, colon));
     request.periodName = text.substr(colon + 1);
     auto const period = std::find_if(kPeriods.begin(), kPeriods.end(), [&](PeriodName const & candidate) {
         return candidate.name == request.periodName;

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <utility>
 
 #include "typedtable/Texts.h"
@@ -21,7 +22,9 @@ namespace {
 
 }  // namespace
 
-InputFile::InputFile(std::string const & path, Readings readings) : m_name(path == "-" ? Text("standard input") : path)
+InputFile::InputFile(std::string const & path, Readings readings)
+    : m_name(path == "-" ? Text("standard input") : path),
+      m_source(path == "-" ? "stdin" : std::filesystem::path(path).stem().string())
 {
     if (path == "-") {
         // A descriptor of our own: standard input itself stays open.

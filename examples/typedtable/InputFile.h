@@ -31,6 +31,10 @@ public:
     /// The path as given; "standard input" for "-".
     std::string const & GetName() const noexcept { return m_name; }
 
+    /// The data source that a qualified name of a column names: the name without folders and without its last ending,
+    /// "weather" for data/weather.csv; "stdin" for "-".
+    std::string const & GetDataSourceName() const noexcept { return m_source; }
+
 private:
     struct Closer
     {
@@ -39,6 +43,7 @@ private:
     using File = std::unique_ptr<std::FILE, Closer>;
 
     std::string m_name;
+    std::string m_source;
     File m_file;
     File m_copy;  // of what is read, where the file itself has no second reading
 };

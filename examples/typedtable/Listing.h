@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "typedtable/ColumnName.h"
 #include "typedtable/RowSink.h"
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
@@ -17,7 +18,7 @@ namespace typedtable {
 
 struct ListingRequest
 {
-    std::optional<std::string> sort;  // a column; without it the order of the file
+    std::optional<ColumnName> sort;  // a column; without it the order of the file
     std::size_t rows = std::numeric_limits<std::size_t>::max();
 };
 

@@ -152,7 +152,7 @@ private:
                                        [&](AggregateKind candidate) { return name == OptionOf(candidate); });
         if (kind == kColumnAggregates.end())
             return false;
-        m_items.push_back({*kind, TakeValue(name)});
+        m_items.push_back({*kind, ReadColumnName(name, TakeValue(name))});
         return true;
     }
 
@@ -260,13 +260,14 @@ private:
         if (m_distinct) {
             if (m_items.empty())
                 m_items.push_back({AggregateKind::Count, {}});
-            return DistinctRequest{*m_distinct, std::move(m_items)};
+            return DistinctRequest{ReadColumnName("--distinct", *m_distinct), std::move(m_items)};
         }
         if (!m_items.empty())
             return SummaryRequest{std::move(m_items)};
         if (m_sort || m_where || m_find) {
             ListingRequest request;
-            request.sort = m_sort;
+            if (m_sort)
+                request.sort = ReadColumnName("--sort", *m_sort);
             if (m_rows)
                 request.rows = static_cast<std::size_t>(*m_rows);
             return request;

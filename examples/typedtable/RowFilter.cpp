@@ -19,8 +19,8 @@ RowFilter::RowFilter(FilterRequest const & request, Schema const & schema, Colla
         DataType const type = schema.columns[column].type;
         DataValue literal = condition.literal;
         if (!m_operators.CanPromote(type, literal.GetDataType()))
-            throw TableError(Text("--where: column \"%1\" is %2 and does not compare with the %3 %4", condition.column,
-                                  DataValue::DataTypeToString(type).toStdString(),
+            throw TableError(Text("--where: column \"%1\" is %2 and does not compare with the %3 %4",
+                                  condition.column.name, DataValue::DataTypeToString(type).toStdString(),
                                   DataValue::DataTypeToString(literal.GetDataType()).toStdString(),
                                   ValueText(literal)));
         if (literal.IsNull())

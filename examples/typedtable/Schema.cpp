@@ -25,8 +25,11 @@ std::string CountOfColumns(std::size_t count)
 
 }  // namespace
 
-std::size_t Schema::Find(std::string const & name) const
+std::size_t Schema::Find(ColumnName const & column) const
 {
+    std::string const & name = column.name;
+    if (column.source && *column.source != source)
+        throw TableError(Text("no data source is named \"%1\"; that of the file is \"%2\"", *column.source, source));
     std::optional<std::size_t> found;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (columns[i].name != name)

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "typedtable/ByteSource.h"
+#include "typedtable/ColumnName.h"
 #include "typedtable/DateInference.h"
 #include "typedtable/Table.h"
 
@@ -24,15 +25,18 @@ struct Schema
         std::shared_ptr<DateColumn const> dates = nullptr;  // of a column whose texts are dates: FindDates
     };
 
+    std::string source;  // the data source that a qualified name of a column may name
     std::vector<Column> columns;
     long long rows = 0;  // without the header
     Table firstRows;
 
-    /// The index of the column of this name. Throws UserError if there is none, or more than one.
-    std::size_t Find(std::string const & name) const;
+    /// The index of the column of this name. Throws TableError if there is none, or more than one, or if the name has
+    /// another data source.
+    std::size_t Find(ColumnName const & column) const;
 };
 
-/// Reads a CSV file to its end, in memory for one record and the first `firstRows` rows. A column's type is known only
+/// Reads a CSV file to its end, in memory for one record and the first `firstRows` rows. The data source is left empty.
+/// A column's type is known only
 /// at the end, so values of more rows take a second reading (TypedReader). Throws TableError for what CsvReader refuses
 /// and for a file without a header.
 Schema ReadSchema(ByteSource & source, std::size_t firstRows);

@@ -15,12 +15,15 @@ char const * const kUsage =
 Reads a CSV file (UTF-8, with a header), types its columns, and prints the columns with their types and counts of nulls,
 and the first rows. With more options it prints rows, sums, or groups instead. FILE may be - for standard input.
 
+COLUMN is a name as the header has it, or a qualified name: [temp max], or [weather].[temp max] with the name of the
+file without its ending in front. In brackets a ] is written twice; a column whose own name is [a] is [[a]]].
+
 Rows
   --rows N             how many rows to print, 0 to 1000000 (5 below the columns, else all)
   --sort COLUMN        the rows by rising value, nulls first. Rows that are sorted are held in memory
   --where CONDITION    only rows that fulfil it: "temp_max > 20". One of = != < <= > >= between a column and a number, a
                        text in quotes, true, false, null or a date, which may stand between # and #. A column whose name
-                       holds one of these signs stands in double quotes
+                       holds one of these signs stands in double quotes or in brackets
   --find TEXT          only rows with the text somewhere in a text column
 
 Sums and groups, also of the rows that --where and --find leave

@@ -51,6 +51,7 @@ std::unique_ptr<RowSink> MakeSink(Options const & options, Schema const & schema
 Schema ReadTypes(Options const & options, InputFile & file, std::size_t firstRows)
 {
     Schema schema = ReadSchema(file, firstRows);
+    schema.source = file.GetDataSourceName();
     if (options.dates.datesIn)
         FindDates(file, schema, MakeLocale("--dates-in", *options.dates.datesIn));
     return schema;

@@ -45,11 +45,40 @@ TEST(ReadCondition, TakesAColumnAComparisonAndALiteral)
     {
         SCOPED_TRACE(good.text);
         Condition const condition = ReadCondition(good.text);
-        EXPECT_EQ(condition.column, good.column);
+        EXPECT_EQ(condition.column.name, good.column);
+        EXPECT_FALSE(condition.column.source);
         EXPECT_EQ(condition.comparison, good.comparison);
         EXPECT_EQ(condition.literal.GetDataType(), good.type);
         EXPECT_EQ(ValueText(condition.literal), good.literal);
     }
+}
+
+TEST(ReadCondition, TakesAQualifiedName)
+{
+    struct Case
+    {
+        char const * text;
+        char const * source;  // null without one
+        char const * column;
+    };
+    for (Case const & good :
+         {Case{"[temp max] > 20", nullptr, "temp max"}, Case{"  [weather].[temp max]>20", "weather", "temp max"},
+          Case{"[a<b] > 20", nullptr, "a<b"}, Case{"[a]]=].[\"!\"] > 20", "a]=", "\"!\""},
+          Case{"[[a]]] > 20", nullptr, "[a]"}})
+    {
+        SCOPED_TRACE(good.text);
+        Condition const condition = ReadCondition(good.text);
+        EXPECT_EQ(condition.column.name, good.column);
+        EXPECT_EQ(condition.column.source.has_value(), good.source != nullptr);
+        EXPECT_EQ(condition.column.source.value_or(""), good.source == nullptr ? "" : good.source);
+        EXPECT_EQ(condition.comparison, Comparison::Greater);
+        EXPECT_EQ(ValueText(condition.literal), "20");
+    }
+    // In double quotes brackets are part of the name.
+    EXPECT_EQ(ReadCondition("\"[a]\" > 20").column.name, "[a]");
+    for (char const * const text : {"[a", "[a > 20", "[a] b > 20", "[a]. > 20", "[a].b > 20", "[a].[b].[c] > 20",
+                                    "[] > 20", "[a]", "[a] 20", "[a] >"})
+        EXPECT_THROW(ReadCondition(text), UserError) << text;
 }
 
 TEST(ReadCondition, RefusesEverythingElse)

@@ -219,6 +219,81 @@ class Where(Program):
         self.assert_prints("a<b\n  2\n1 of 2 rows\n", path, "--where", '"a<b" > 1')
 
 
+class QualifiedNames(Program):
+    """A column may be given as [COLUMN] or [SOURCE].[COLUMN]: every option does what it does with the bare name."""
+
+    def setUp(self):
+        super().setUp()
+        with open(WEATHER, encoding="utf-8") as file:
+            text = file.read().replace("temp_max", "temp max", 1)
+        self.weather = self.write(text, "weather.csv")
+
+    def test_every_option(self):
+        for bare, qualified in (
+                (["--sum", "temp max", "--mean=wind"], ["--sum", "[weather].[temp max]", "--mean=[wind]"]),
+                (["--min", "date", "--max", "temp max"], ["--min", "[date]", "--max", "[weather].[temp max] "]),
+                (["--sort", "temp max", "--rows", "9"], ["--sort", "[weather].[temp max]", "--rows", "9"]),
+                (["--distinct", "weather", "--count"], ["--distinct", "[weather].[weather]", "--count"]),
+                (["--group-by", "date:year", "--max", "temp max"],
+                 ["--group-by", "[weather].[date]:year", "--max", "[temp max]"]),
+                (["--where", "temp max > 30"], ["--where", "[weather].[temp max] > 30"]),
+                (["--where", "weather = 'sun'", "--mean", "wind"], ["--where", "[weather]='sun'", "--mean", "[wind]"])):
+            expected = run(self.weather, *bare)
+            self.assertEqual(expected.returncode, 0, expected.stderr)
+            with self.subTest(options=qualified):
+                self.assert_prints(expected.stdout.decode(), self.weather, *qualified)
+
+    def test_titles_show_the_bare_name(self):
+        path = self.write("a,b\n1,2\n3,4\n")
+        self.assert_prints("sum(a)  max(b)\n     4       4\n2 rows\n", path, "--sum", "[t].[a]", "--max", "[b]")
+
+    def test_names_with_signs(self):
+        path = self.write('a<b,"c]d",[e],f:g\n1,2,3,2020-02-03\n2,3,4,2021-02-03\n')
+        self.assert_prints("sum(c]d)\n       3\n1 of 2 rows\n", path, "--where", "[a<b] > 1", "--sum", "[c]]d]")
+        self.assert_prints("sum([e])\n       7\n2 rows\n", path, "--sum", "[[e]]]")
+        self.assert_prints(run(path, "--group-by", "f:g:year").stdout.decode(), path, "--group-by", "[f:g]:year")
+        self.assert_refuses(f'{path}: no column is named "e"', path, "--sum", "[e]")
+        self.assert_refuses('--group-by: "[f:g]" is not COLUMN:PERIOD', path, "--group-by", "[f:g]")
+
+    def test_standard_input_is_a_data_source(self):
+        self.assert_prints("sum(a)\n     3\n2 rows\n", "-", "--sum", "[stdin].[a]", stdin=b"a\n1\n2\n")
+
+    def test_another_data_source(self):
+        for arguments in (["--sum", "[sales].[wind]"], ["--sort", "[sales].[wind]"], ["--distinct", "[sales].[wind]"],
+                          ["--where", "[sales].[wind] > 1"], ["--group-by", "[sales].[date]:year"]):
+            self.assert_refuses(f'{self.weather}: no data source is named "sales"; that of the file is "weather"',
+                                self.weather, *arguments)
+        self.assert_refuses(f'{self.weather}: no column is named "rain"', self.weather, "--sum", "[weather].[rain]")
+
+    def test_what_is_no_qualified_name(self):
+        for text, error in (("[weather].temp max", "expected '['"), ("[weather]..[wind]", "expected '['"),
+                            ("[", "dangling '['"), ("[weather].[", "dangling '['"), ("[wind", "mismatched brackets"),
+                            ("[wind]]", "mismatched brackets"), ("[weather][wind]", "expected '.'"),
+                            ("[weather].", "dangling '.'")):
+            shown = f"Qualified Name Parse Error --- Invalid input: {error} --- Input: {text}"
+            for option, value in (("--sum", text), ("--mean", text), ("--min", text), ("--max", text), ("--sort", text),
+                                  ("--distinct", text), ("--group-by", text + ":year"), ("--where", text + " > 3")):
+                # An open bracket takes everything behind it.
+                at_end = {"--group-by": ":year", "--where": " > 3"}.get(option, "")
+                input_shown = shown + (at_end if error == "mismatched brackets" else "")
+                if error == "dangling '['" and at_end:
+                    input_shown = (f"Qualified Name Parse Error --- Invalid input: mismatched brackets --- Input: "
+                                   f"{text}{at_end}")
+                with self.subTest(option=option, value=value):
+                    self.assert_refuses(f"{option}: {input_shown}", self.weather, option, value)
+        self.assert_refuses('--sum: "[a].[b].[c]" has 3 parts; a column is [COLUMN] or [SOURCE].[COLUMN]',
+                            self.weather, "--sum", "[a].[b].[c]")
+        # Line ends and the like are shown on one line.
+        self.assert_refuses("--sum: Qualified Name Parse Error --- Invalid input: expected '.' --- Input: [a]\\n.[b]",
+                            self.weather, "--sum", "[a]\n.[b]")
+
+    def test_the_error_in_the_language_of_the_user(self):
+        result = run(self.weather, "--language", "de", "--sum", "[weather].wind")
+        self.assertEqual(result.stderr.decode(), "typedtable: --sum: Qualified Name Parse Error --- Ungültige Eingabe: "
+                                                 "„[“ erwartet --- Input: [weather].wind\n")
+        self.assertEqual(result.returncode, 2)
+
+
 class Sums(Program):
     def summary(self, rows, count):
         numbers = {name: [float(row[name]) for row in rows] for name in WEATHER_NUMBERS}

@@ -100,6 +100,10 @@
         <translation>%1, die ersten %2 gezeigt</translation>
     </message>
     <message>
+        <source>%1: "%2" has %3 parts; a column is [COLUMN] or [SOURCE].[COLUMN]</source>
+        <translation>%1: „%2“ hat %3 Teile; eine Spalte ist [SPALTE] oder [QUELLE].[SPALTE]</translation>
+    </message>
+    <message>
         <source>%1: "%2" is not a number from %3 to %4</source>
         <translation>%1: „%2“ ist keine Zahl von %3 bis %4</translation>
     </message>
@@ -318,6 +322,10 @@
     <message>
         <source>no column is named "%1"</source>
         <translation>keine Spalte heißt „%1“</translation>
+    </message>
+    <message>
+        <source>no data source is named "%1"; that of the file is "%2"</source>
+        <translation>keine Datenquelle heißt „%1“; die der Datei ist „%2“</translation>
     </message>
     <message>
         <source>no file is given; typedtable --help shows the usage</source>

@@ -100,6 +100,10 @@
         <translation>%1, se muestran las primeras %2</translation>
     </message>
     <message>
+        <source>%1: "%2" has %3 parts; a column is [COLUMN] or [SOURCE].[COLUMN]</source>
+        <translation>%1: «%2» tiene %3 partes; una columna es [COLUMNA] o [ORIGEN].[COLUMNA]</translation>
+    </message>
+    <message>
         <source>%1: "%2" is not a number from %3 to %4</source>
         <translation>%1: «%2» no es un número de %3 a %4</translation>
     </message>
@@ -318,6 +322,10 @@
     <message>
         <source>no column is named "%1"</source>
         <translation>ninguna columna se llama «%1»</translation>
+    </message>
+    <message>
+        <source>no data source is named "%1"; that of the file is "%2"</source>
+        <translation>ningún origen de datos se llama «%1»; el del archivo es «%2»</translation>
     </message>
     <message>
         <source>no file is given; typedtable --help shows the usage</source>

@@ -100,6 +100,10 @@
         <translation>%1, les %2 premières affichées</translation>
     </message>
     <message>
+        <source>%1: "%2" has %3 parts; a column is [COLUMN] or [SOURCE].[COLUMN]</source>
+        <translation>%1 : « %2 » a %3 parties ; une colonne est [COLONNE] ou [SOURCE].[COLONNE]</translation>
+    </message>
+    <message>
         <source>%1: "%2" is not a number from %3 to %4</source>
         <translation>%1 : « %2 » n’est pas un nombre de %3 à %4</translation>
     </message>
@@ -318,6 +322,10 @@
     <message>
         <source>no column is named "%1"</source>
         <translation>aucune colonne ne s’appelle « %1 »</translation>
+    </message>
+    <message>
+        <source>no data source is named "%1"; that of the file is "%2"</source>
+        <translation>aucune source de données ne s’appelle « %1 » ; celle du fichier est « %2 »</translation>
     </message>
     <message>
         <source>no file is given; typedtable --help shows the usage</source>

@@ -100,6 +100,10 @@
         <translation>%1、先頭の %2 行を表示</translation>
     </message>
     <message>
+        <source>%1: "%2" has %3 parts; a column is [COLUMN] or [SOURCE].[COLUMN]</source>
+        <translation>%1: 「%2」は %3 個の部分からなります。列は [列] または [ソース].[列] と書きます</translation>
+    </message>
+    <message>
         <source>%1: "%2" is not a number from %3 to %4</source>
         <translation>%1: 「%2」は %3 から %4 までの数ではありません</translation>
     </message>
@@ -318,6 +322,10 @@
     <message>
         <source>no column is named "%1"</source>
         <translation>「%1」という名前の列はありません</translation>
+    </message>
+    <message>
+        <source>no data source is named "%1"; that of the file is "%2"</source>
+        <translation>「%1」という名前のデータソースはありません。このファイルのデータソースは「%2」です</translation>
     </message>
     <message>
         <source>no file is given; typedtable --help shows the usage</source>
