@@ -10,15 +10,11 @@
 
 namespace LanguageUtils::detail {
 
-namespace {
-
 TString MarketOf(TString const & code)
 {
     int const hyphen = code.indexOf(u'-');
     return hyphen > 0 ? code.mid(hyphen + 1) : TString();
 }
-
-}  // namespace
 
 LanguageCatalogue const & LanguageCatalogue::Get()
 {

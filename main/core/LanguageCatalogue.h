@@ -13,6 +13,9 @@
 
 namespace LanguageUtils::detail {
 
+// The part behind the first hyphen, "EU" of "de_DE-EU"; empty without one, or if the code begins with it.
+TString MarketOf(TString const & code);
+
 // Immutable after construction; any thread may read.
 class VELCOREDATA_API LanguageCatalogue
 {

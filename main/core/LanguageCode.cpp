@@ -14,12 +14,6 @@ namespace {
 
 constexpr LCID USER_DEFAULT_LCID = 1024;
 
-TString MarketOf(TString const & code)
-{
-    int const hyphen = code.indexOf(u'-');
-    return hyphen > 0 ? code.mid(hyphen + 1) : TString();
-}
-
 }  // namespace
 
 LanguageCode::LanguageCode()
@@ -119,9 +113,9 @@ void LanguageCode::SetLanguageCode(TString const & code, bool fromLcid)
         m_isoString = LanguageUtils::GetLocaleStr(m_lcid);
     }
 
-    m_marketString = MarketOf(value);
+    m_marketString = tables::MarketOf(value);
     if (m_marketString.isEmpty()) {
         if (TString const * const ofLanguage = catalogue.FindSupported(ICUUtils::GetLanguageName(given)))
-            m_marketString = MarketOf(*ofLanguage);
+            m_marketString = tables::MarketOf(*ofLanguage);
     }
 }

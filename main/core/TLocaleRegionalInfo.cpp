@@ -1,6 +1,7 @@
 // What the system knows of a locale: forwarded to its provider.
 
 #include "main/core/DateOrder.h"
+#include "main/core/FirstWeek.h"
 #include "main/utility/WinApiLocaleInfoProvider.h"
 #include "velcoredata/core/TLocale.h"
 
@@ -71,11 +72,7 @@ bool TLocale::FirstWeekIsBroken(LCID lcid)
 
 int TLocale::GetMinimalDaysInFirstWeek(LCID lcid)
 {
-    switch (GetFirstWeekBehaviour(lcid)) {
-    case FirstWeekFourDays: return 4;
-    case FirstWeekFullWeek: return 7;
-    default: return 1;
-    }
+    return detail::MinimalDaysOf(GetFirstWeekBehaviour(lcid));
 }
 
 TString TLocale::GetLocaleFormatAsICU(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid)

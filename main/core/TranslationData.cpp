@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "main/core/ByteReader.h"
@@ -119,10 +120,12 @@ bool IsSoundTranslation(unsigned char const * bytes, std::size_t size)
     ByteReader contexts(bytes, 0);
     ByteReader hashes(bytes, 0);
     ByteReader messages(bytes, 0);
+    std::set<std::uint32_t> seen;
     for (std::size_t at = sizeof magic; at < size;) {
         auto const tag = file.U8(at);
         auto const length = file.U32(at + 1);
-        if (!tag || !length || !file.Has(at + 5, *length))
+        // Qt stops at an empty section. Which of two of one kind counts, is not left to it either.
+        if (!tag || !length || *length == 0 || !file.Has(at + 5, *length) || !seen.insert(*tag).second)
             return false;
         ByteReader const section(bytes + at + 5, *length);
         switch (*tag) {

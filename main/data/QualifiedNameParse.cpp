@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "main/data/BracketScan.h"
 #include "velcoredata/core/LocalStrings.h"
 #include "velcoredata/data/QualifiedName.h"
 #include "velcoredata/data/QualifiedNameException.h"
@@ -56,6 +57,9 @@ constexpr ParseError kEndAfterDot PARSE_ERROR(0x5F1F540C, IDS_ERR_DANGLING_DOT);
 // White space as TString::trim has it.
 std::u16string_view Trimmed(TString const & text)
 {
+    std::u16string_view const whole = text.View();
+    if (!whole.empty() && whole.front() == u'[' && whole.back() == u']')
+        return whole;
     QStringView const trimmed = QStringView(text.toQString()).trimmed();
     return {trimmed.utf16(), static_cast<std::size_t>(trimmed.size())};
 }
@@ -69,13 +73,14 @@ ParseError const * WalkComponents(std::u16string_view text, OnBody onBody)
         return nullptr;
     if (text.front() != u'[')
         return &kNoBracketAtStart;
+    detail::BracketScan brackets(text);
     for (std::size_t open = 0;;) {
         std::size_t const bodyStart = open + 1;
         if (bodyStart >= text.size())
             return &kEndAfterBracket;
         bool hasPair = false;
-        std::size_t close = text.find(u']', bodyStart);
-        for (; close != text.npos; close = text.find(u']', close + 2)) {
+        std::size_t close = brackets.Next(bodyStart);
+        for (; close != text.npos; close = brackets.Next(close + 2)) {
             if (close + 1 == text.size() || text[close + 1] != u']')
                 break;
             hasPair = true;
@@ -115,7 +120,10 @@ std::shared_ptr<QualifiedName::QNData> QualifiedName::Parse(TString const & text
         return EmptyBlock();
     auto block = std::make_shared<QNData>();
     ParseError const * const error = WalkComponents(trimmed, [&](std::u16string_view body, bool hasPair) {
-        block->m_components.push_back(hasPair ? WithoutPairs(body) : TString::fromView(body));
+        if (hasPair)
+            block->m_components.push_back(WithoutPairs(body));
+        else
+            block->m_components.emplace_back(body.data(), static_cast<int>(body.size()));
     });
     if (error == nullptr)
         return block;

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "main/utility/DatePicture.h"
-#include "velnls/LocaleInfo.h"
 
 namespace {
 
@@ -16,49 +15,6 @@ constexpr int SEPARATOR_ROOM = 10;
 constexpr int TEXT_ROOM = 100;
 
 constexpr int USUAL_DECIMALS = 2;
-
-// False leaves `out` alone.
-template <int room>
-bool Query(LCID lcid, LCTYPE type, TString & out)
-{
-    char16_t buffer[room] = {};
-    if (GetLocaleInfoW(lcid, type, buffer, room) <= 0)
-        return false;
-    out = TString(buffer);
-    return true;
-}
-
-template <int room>
-TString QueryText(LCID lcid, LCTYPE type, char16_t const * otherwise = u"")
-{
-    TString answer(otherwise);
-    Query<room>(lcid, type, answer);
-    return answer;
-}
-
-int QueryNumber(LCID lcid, LCTYPE type, int otherwise)
-{
-    TString answer;
-    return Query<DIGIT_ROOM>(lcid, type, answer) ? answer.toInt() : otherwise;
-}
-
-// Layouts of negative amounts have two digits.
-int QueryLayout(LCID lcid, LCTYPE type)
-{
-    TString answer;
-    return Query<TEXT_ROOM>(lcid, type, answer) ? answer.toInt() : -1;
-}
-
-TString QueryPicture(LCID lcid, LCTYPE type)
-{
-    int const size = GetLocaleInfoW(lcid, type, nullptr, 0);
-    if (size <= 0)
-        return TString();
-    std::u16string picture(static_cast<std::size_t>(size), u'\0');
-    if (GetLocaleInfoW(lcid, type, picture.data(), size) <= 0)
-        return TString();
-    return TString(picture.c_str());
-}
 
 void SetGrouping(TString const & grouping, NumberFormatOptions & options)
 {
@@ -115,17 +71,60 @@ FirstWeekBehaviour FirstWeekOfQuery(int answer) noexcept
 
 }  // namespace detail
 
-WinApiLocaleInfoProvider::WinApiLocaleInfoProvider() = default;
+WinApiLocaleInfoProvider::WinApiLocaleInfoProvider(Query query) : m_query(query) {}
 WinApiLocaleInfoProvider::~WinApiLocaleInfoProvider() = default;
+
+// False leaves `out` alone.
+template <int room>
+bool WinApiLocaleInfoProvider::Ask(LCID lcid, LCTYPE type, TString & out) const
+{
+    char16_t buffer[room] = {};
+    if (m_query(lcid, type, buffer, room) <= 0)
+        return false;
+    out = TString(buffer);
+    return true;
+}
+
+template <int room>
+TString WinApiLocaleInfoProvider::AskText(LCID lcid, LCTYPE type, char16_t const * otherwise) const
+{
+    TString answer(otherwise);
+    Ask<room>(lcid, type, answer);
+    return answer;
+}
+
+int WinApiLocaleInfoProvider::AskNumber(LCID lcid, LCTYPE type, int otherwise) const
+{
+    TString answer;
+    return Ask<DIGIT_ROOM>(lcid, type, answer) ? answer.toInt() : otherwise;
+}
+
+// Layouts of negative amounts have two digits.
+int WinApiLocaleInfoProvider::AskLayout(LCID lcid, LCTYPE type) const
+{
+    TString answer;
+    return Ask<TEXT_ROOM>(lcid, type, answer) ? answer.toInt() : -1;
+}
+
+TString WinApiLocaleInfoProvider::AskPicture(LCID lcid, LCTYPE type) const
+{
+    int const size = m_query(lcid, type, nullptr, 0);
+    if (size <= 0)
+        return TString();
+    std::u16string picture(static_cast<std::size_t>(size), u'\0');
+    if (m_query(lcid, type, picture.data(), size) <= 0)
+        return TString();
+    return TString(picture.c_str());
+}
 
 TString WinApiLocaleInfoProvider::GetLocaleFormatAsWindows(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid)
 {
     switch (spec) {
-    case ICUUtils::SpecLongDate: return QueryPicture(lcid, LOCALE_SLONGDATE);
-    case ICUUtils::SpecShortDate: return QueryPicture(lcid, LOCALE_SSHORTDATE);
-    case ICUUtils::SpecTime: return QueryPicture(lcid, LOCALE_STIMEFORMAT);
-    case ICUUtils::SpecShortTime: return QueryPicture(lcid, LOCALE_SSHORTTIME);
-    default: return QueryPicture(lcid, LOCALE_SSHORTDATE) + u' ' + QueryPicture(lcid, LOCALE_STIMEFORMAT);
+    case ICUUtils::SpecLongDate: return AskPicture(lcid, LOCALE_SLONGDATE);
+    case ICUUtils::SpecShortDate: return AskPicture(lcid, LOCALE_SSHORTDATE);
+    case ICUUtils::SpecTime: return AskPicture(lcid, LOCALE_STIMEFORMAT);
+    case ICUUtils::SpecShortTime: return AskPicture(lcid, LOCALE_SSHORTTIME);
+    default: return AskPicture(lcid, LOCALE_SSHORTDATE) + u' ' + AskPicture(lcid, LOCALE_STIMEFORMAT);
     }
 }
 
@@ -148,12 +147,12 @@ void WinApiLocaleInfoProvider::GetSystemCurrencySettings(LCID lcid, NumberFormat
 {
     options->units = UnitsFormatEnum::None;
     options->decimals = GetCurrencyDecimalPlaces(lcid);
-    options->decimalSeparator = QueryText<TEXT_ROOM>(lcid, LOCALE_SMONDECIMALSEP);
-    detail::PlaceCurrencySymbol(QueryLayout(lcid, LOCALE_ICURRENCY), QueryText<TEXT_ROOM>(lcid, LOCALE_SCURRENCY),
+    options->decimalSeparator = AskText<TEXT_ROOM>(lcid, LOCALE_SMONDECIMALSEP);
+    detail::PlaceCurrencySymbol(AskLayout(lcid, LOCALE_ICURRENCY), AskText<TEXT_ROOM>(lcid, LOCALE_SCURRENCY),
                                 *options);
-    SetGrouping(QueryText<TEXT_ROOM>(lcid, LOCALE_SMONGROUPING), *options);
-    options->thousandSeparator = QueryText<TEXT_ROOM>(lcid, LOCALE_SMONTHOUSANDSEP);
-    options->negative = detail::NegativeOfCurrencyLayout(QueryLayout(lcid, LOCALE_INEGCURR));
+    SetGrouping(AskText<TEXT_ROOM>(lcid, LOCALE_SMONGROUPING), *options);
+    options->thousandSeparator = AskText<TEXT_ROOM>(lcid, LOCALE_SMONTHOUSANDSEP);
+    options->negative = detail::NegativeOfCurrencyLayout(AskLayout(lcid, LOCALE_INEGCURR));
 }
 
 void WinApiLocaleInfoProvider::GetSystemNumberSettings(LCID lcid, NumberFormatOptions * options)
@@ -162,49 +161,49 @@ void WinApiLocaleInfoProvider::GetSystemNumberSettings(LCID lcid, NumberFormatOp
     options->suffix.clear();
     options->units = UnitsFormatEnum::None;
     options->decimals = GetNumberDecimalPlaces(lcid);
-    options->decimalSeparator = QueryText<TEXT_ROOM>(lcid, LOCALE_SDECIMAL);
-    SetGrouping(QueryText<TEXT_ROOM>(lcid, LOCALE_SGROUPING), *options);
-    options->thousandSeparator = QueryText<TEXT_ROOM>(lcid, LOCALE_STHOUSAND);
-    options->negative = detail::NegativeOfNumberLayout(QueryLayout(lcid, LOCALE_INEGNUMBER));
+    options->decimalSeparator = AskText<TEXT_ROOM>(lcid, LOCALE_SDECIMAL);
+    SetGrouping(AskText<TEXT_ROOM>(lcid, LOCALE_SGROUPING), *options);
+    options->thousandSeparator = AskText<TEXT_ROOM>(lcid, LOCALE_STHOUSAND);
+    options->negative = detail::NegativeOfNumberLayout(AskLayout(lcid, LOCALE_INEGNUMBER));
 }
 
 int WinApiLocaleInfoProvider::GetCurrencyDecimalPlaces(LCID lcid)
 {
-    return QueryNumber(lcid == 0 ? USER_DEFAULT_LCID : lcid, LOCALE_ICURRDIGITS, USUAL_DECIMALS);
+    return AskNumber(lcid == 0 ? USER_DEFAULT_LCID : lcid, LOCALE_ICURRDIGITS, USUAL_DECIMALS);
 }
 
 int WinApiLocaleInfoProvider::GetNumberDecimalPlaces(LCID lcid)
 {
-    return QueryNumber(lcid == 0 ? USER_DEFAULT_LCID : lcid, LOCALE_IDIGITS, USUAL_DECIMALS);
+    return AskNumber(lcid == 0 ? USER_DEFAULT_LCID : lcid, LOCALE_IDIGITS, USUAL_DECIMALS);
 }
 
 TString WinApiLocaleInfoProvider::GetCurrencyString(LCID lcid)
 {
-    return QueryText<TEXT_ROOM>(lcid, LOCALE_SCURRENCY);
+    return AskText<TEXT_ROOM>(lcid, LOCALE_SCURRENCY);
 }
 
 TString WinApiLocaleInfoProvider::GetThousandSeparator(LCID lcid)
 {
-    return QueryText<SEPARATOR_ROOM>(lcid, LOCALE_STHOUSAND);
+    return AskText<SEPARATOR_ROOM>(lcid, LOCALE_STHOUSAND);
 }
 
 TString WinApiLocaleInfoProvider::GetDecimalPoint(LCID lcid)
 {
-    return QueryText<SEPARATOR_ROOM>(lcid, LOCALE_SDECIMAL, u".");
+    return AskText<SEPARATOR_ROOM>(lcid, LOCALE_SDECIMAL, u".");
 }
 
 TString WinApiLocaleInfoProvider::GetListSeparator(LCID lcid)
 {
-    return QueryText<LIST_SEPARATOR_ROOM>(lcid, LOCALE_SLIST, u",");
+    return AskText<LIST_SEPARATOR_ROOM>(lcid, LOCALE_SLIST, u",");
 }
 
 Localization::MeasureSystem WinApiLocaleInfoProvider::GetMeasureSystem(LCID lcid)
 {
-    TString const answer = QueryText<DIGIT_ROOM>(lcid, LOCALE_IMEASURE);
+    TString const answer = AskText<DIGIT_ROOM>(lcid, LOCALE_IMEASURE);
     return answer.startsWith(u"0") ? Localization::MeasureMetric : Localization::MeasureUS;
 }
 
 FirstWeekBehaviour WinApiLocaleInfoProvider::GetFirstWeekBehaviour(LCID lcid)
 {
-    return detail::FirstWeekOfQuery(QueryNumber(lcid, LOCALE_IFIRSTWEEKOFYEAR, 0));
+    return detail::FirstWeekOfQuery(AskNumber(lcid, LOCALE_IFIRSTWEEKOFYEAR, 0));
 }

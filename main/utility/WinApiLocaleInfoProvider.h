@@ -3,11 +3,15 @@
 
 #include "velcoredata/string/NumberFormatOptions.h"
 #include "velcoredata/utility/ILocaleInfoProvider.h"
+#include "velnls/LocaleInfo.h"
 
 class VELCOREDATA_API WinApiLocaleInfoProvider : public ILocaleInfoProvider
 {
 public:
-    WinApiLocaleInfoProvider();
+    // Answers as GetLocaleInfoW does.
+    using Query = int (*)(LCID lcid, LCTYPE type, char16_t * buffer, int size);
+
+    explicit WinApiLocaleInfoProvider(Query query = &GetLocaleInfoW);
     ~WinApiLocaleInfoProvider() override;
 
     TString GetLocaleFormatAsICU(ICUUtils::DefaultDateTimeFormatSpec spec, LCID lcid) override;
@@ -24,6 +28,17 @@ public:
     TString GetListSeparator(LCID lcid) override;
     Localization::MeasureSystem GetMeasureSystem(LCID lcid) override;
     FirstWeekBehaviour GetFirstWeekBehaviour(LCID lcid) override;
+
+private:
+    template <int room>
+    bool Ask(LCID lcid, LCTYPE type, TString & out) const;
+    template <int room>
+    TString AskText(LCID lcid, LCTYPE type, char16_t const * otherwise = u"") const;
+    int AskNumber(LCID lcid, LCTYPE type, int otherwise) const;
+    int AskLayout(LCID lcid, LCTYPE type) const;
+    TString AskPicture(LCID lcid, LCTYPE type) const;
+
+    Query const m_query;
 };
 
 namespace detail {

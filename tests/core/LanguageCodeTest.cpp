@@ -40,6 +40,7 @@ TEST(LanguageCode, Texts)
         {u"sv_SE", u"sv_SE", u"", 0x41D, u"sv_SE", u"sv-se"},
         {u"xx_YY-EU", u"root", u"EU", 0, u"root-EU", u"root"},
         {u"-EU", u"root", u"", 0, u"root", u"root"},
+        {u"de_AT-", u"de_AT", u"EU", 0xC07, u"de_AT-EU", u"de-at"},  // an empty market is none
         {u"ar_YE-US", u"ar_YE", u"US", 0x2401, u"ar_YE-US", u"ar-ye"},
         {u"", u"", u"", 0, u"", u""},
     };
@@ -76,6 +77,11 @@ TEST(LanguageCode, FromAnLcidTheNameIsNotMadeCanonical)
     EXPECT_EQ(code.GetISOString(), u"zh_Hant_TW");
     EXPECT_EQ(code.GetMarketString(), u"China");
     EXPECT_EQ(code.GetLCID(), 0x41Du);
+    code.SetLanguageCode(u"de", true);  // the table comes before all
+    EXPECT_EQ(code.GetFullString(), u"de_DE-EU");
+    EXPECT_EQ(code.GetLCID(), 0x41Du);
+    code.SetLanguageCode(u"%2-%1", true);
+    EXPECT_EQ(code.GetFullString(), u"%2-%1");
     code.SetLanguageCode(u"", true);
     EXPECT_EQ(code.GetLCID(), 0u);
     EXPECT_EQ(code.GetISOString(), u"");

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "main/core/DateOrder.h"
+#include "main/core/FirstWeek.h"
 #include "main/core/LocaleWalk.h"
 #include "velcoredata/core/LanguageUtils.h"
 #include "velcoredata/core/TLocale.h"
@@ -185,12 +186,13 @@ TEST(RegionalInfo, DateOrderIsThatOfTheFirstLetters)
         char16_t const * pattern;
         TLocale::DateOrder order;
     } const rows[] = {
-        {u"dd.MM.yyyy", TLocale::DateOrderDMY},   {u"M/d/yyyy", TLocale::DateOrderMDY},
-        {u"yyyy-MM-dd", TLocale::DateOrderYMD},   {u"yyyy-dd-MM", TLocale::DateOrderYDM},
-        {u"d.yyyy.M", TLocale::DateOrderUnknown}, {u"M-yyyy-d", TLocale::DateOrderUnknown},
-        {u"dd.MM.", TLocale::DateOrderUnknown},   {u"MM.yyyy", TLocale::DateOrderUnknown},
-        {u"d.yyyy", TLocale::DateOrderUnknown},   {u"", TLocale::DateOrderUnknown},
-        {u"yyyy/d M d", TLocale::DateOrderYDM},  // the first of two
+        {u"dd.MM.yyyy", TLocale::DateOrderDMY},     {u"M/d/yyyy", TLocale::DateOrderMDY},
+        {u"yyyy-MM-dd", TLocale::DateOrderYMD},     {u"yyyy-dd-MM", TLocale::DateOrderYDM},
+        {u"d.yyyy.M", TLocale::DateOrderUnknown},   {u"M-yyyy-d", TLocale::DateOrderUnknown},
+        {u"dd.MM.", TLocale::DateOrderUnknown},     {u"MM.yyyy", TLocale::DateOrderUnknown},
+        {u"d.yyyy", TLocale::DateOrderUnknown},     {u"", TLocale::DateOrderUnknown},
+        {u"yyyy/d M d", TLocale::DateOrderYDM},      // the first of two
+        {u"'dia' M/d/yyyy", TLocale::DateOrderDMY},  // quotes do not matter
     };
     for (auto const & row : rows)
         EXPECT_EQ(detail::DateOrderOf(row.pattern), row.order) << TString(row.pattern).toStdString();
@@ -211,6 +213,27 @@ TEST(RegionalInfo, DateOrderOfLocales)
         EXPECT_EQ(TLocale::GetDateOrder(row.lcid), row.order) << row.lcid;
 }
 
+TEST(RegionalInfo, DateOrdersHaveTheirNumbers)
+{
+    EXPECT_EQ(static_cast<int>(TLocale::DateOrderUnknown), 0);
+    EXPECT_EQ(static_cast<int>(TLocale::DateOrderDMY), 1);
+    EXPECT_EQ(static_cast<int>(TLocale::DateOrderMDY), 2);
+    EXPECT_EQ(static_cast<int>(TLocale::DateOrderYMD), 3);
+    EXPECT_EQ(static_cast<int>(TLocale::DateOrderYDM), 4);
+}
+
+// No locale of ICU asks for a whole first week.
+TEST(RegionalInfo, MinimalDaysOfEachBehaviour)
+{
+    struct
+    {
+        int behaviour;
+        int days;
+    } const rows[] = {{0, 1}, {1, 1}, {2, 4}, {3, 7}, {4, 1}, {-1, 1}};
+    for (auto const & row : rows)
+        EXPECT_EQ(detail::MinimalDaysOf(static_cast<FirstWeekBehaviour>(row.behaviour)), row.days) << row.behaviour;
+}
+
 TEST(RegionalInfo, MinimalDaysFollowTheBehaviourOfTheFirstWeek)
 {
     std::map<FirstWeekBehaviour, int> seen;
@@ -219,9 +242,7 @@ TEST(RegionalInfo, MinimalDaysFollowTheBehaviourOfTheFirstWeek)
         FirstWeekBehaviour const behaviour = TLocale::GetFirstWeekBehaviour(lcid);
         ++seen[behaviour];
         EXPECT_EQ(TLocale::FirstWeekIsBroken(lcid), behaviour == FirstWeekContainsJanFirst);
-        EXPECT_EQ(TLocale::GetMinimalDaysInFirstWeek(lcid), behaviour == FirstWeekFourDays   ? 4
-                                                            : behaviour == FirstWeekFullWeek ? 7
-                                                                                             : 1);
+        EXPECT_EQ(TLocale::GetMinimalDaysInFirstWeek(lcid), detail::MinimalDaysOf(behaviour));
     }
     EXPECT_GT(seen[FirstWeekContainsJanFirst], 0);
     EXPECT_GT(seen[FirstWeekFourDays], 0);

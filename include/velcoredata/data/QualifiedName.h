@@ -170,7 +170,7 @@ private:
 
     struct QNData
     {
-        QNData() = default;
+        QNData() noexcept {}  // not defaulted: value initialisation would clear the whole block first
         explicit QNData(Components && components) : m_components(std::move(components)) {}
         QNData(QNData const &) = delete;
         QNData & operator=(QNData const &) = delete;
