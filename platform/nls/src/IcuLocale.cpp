@@ -10,7 +10,7 @@ namespace VelNLS::detail {
 
 namespace {
 
-// Published names whose language or region ICU knows under another name, by a prefix of whole parts.
+// Published names that ICU has under another name, or with the script in it, by a prefix of whole parts.
 struct Renamed
 {
     std::string_view published;
@@ -19,7 +19,7 @@ struct Renamed
 
 constexpr Renamed renamed[] = {
     {"ja-Ploc", "ja"}, {"ar-Ploc", "ar"}, {"ku-Arab", "ckb"}, {"ku", "ckb"},     {"plt", "mg"},
-    {"prs", "fa"},     {"quz", "qu"},     {"tmz", "tzm"},     {"zh-yue", "yue"},
+    {"prs", "fa"},     {"quz", "qu"},     {"tmz", "tzm"},     {"zh-yue", "yue"}, {"ff-NG", "ff_Latn_NG"},
 };
 
 bool BeginsWithPart(std::string_view name, std::string_view part)

@@ -142,6 +142,7 @@ TEST(LocaleInfo, KnownAnswers)
         {0x10407, LOCALE_SDECIMAL, u","},
         {0x48C, LOCALE_SNAME, u"prs-AF"},
         {0x46B, LOCALE_SCURRENCY, u"Bs"},
+        {0x467, LOCALE_SCURRENCY, u"\u20A6"},  // ff-NG, whose data ICU keeps as ff_Latn_NG
         // Without data of the language or script: the root locale, never the process's default.
         {0x47C, LOCALE_SLONGDATE, u"yyyy MMMM d, dddd"},
         {0x105F, LOCALE_SSHORTDATE, u"yyyy-MM-dd"},
