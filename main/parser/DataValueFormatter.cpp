@@ -19,10 +19,8 @@
 #include "velcoreplatform/CorePlatformUtils.h"
 #include "velcoreplatform/RealText.h"
 #include "velgeo/Spatial.h"
-#include "velsys/ThrowSite.h"
-#if __has_include("velgeo/WktSerialization.h")
 #include "velgeo/WktSerialization.h"
-#endif
+#include "velsys/ThrowSite.h"
 
 namespace {
 
@@ -168,11 +166,9 @@ public:
     {
         if (value == nullptr)
             return;
-#if __has_include("velgeo/WktSerialization.h")
         if (m_options->spatialAsWkt)
-            return PutNarrow(velgeo::WktSerialization::Write(*value));
-#endif
-        if (m_options->spatialAsTypeName)
+            PutNarrow(velgeo::WktSerialization::Write(*value));
+        else if (m_options->spatialAsTypeName)
             PutNarrow(velgeo::to_string(value->GetShapeType()));
         else
             PutNumber(value->GetHash());
@@ -234,24 +230,15 @@ private:
         }
     }
 
-    void Put(char16_t c)
-    {
-        m_out.push_back(c);
-    }
-    void Put(std::u16string_view text)
-    {
-        m_out.insert(m_out.end(), text.begin(), text.end());
-    }
+    void Put(char16_t c) { m_out.push_back(c); }
+    void Put(std::u16string_view text) { m_out.insert(m_out.end(), text.begin(), text.end()); }
     // A mark of a tuple or of a member's text.
     void PutMark(char16_t mark)
     {
         m_out.insert(m_out.end(), m_level, u'\\');
         Put(mark);
     }
-    void PutNarrow(std::string const & text)
-    {
-        PutEscaped(TString::fromStdString(text).View(), 0);
-    }
+    void PutNarrow(std::string const & text) { PutEscaped(TString::fromStdString(text).View(), 0); }
 
     // Room for `most` code units at the end.
     char16_t * Extend(std::size_t most)
@@ -260,10 +247,7 @@ private:
         m_out.resize(size + most, boost::container::default_init);
         return m_out.data() + size;
     }
-    void CutAt(char16_t const * end)
-    {
-        m_out.resize(static_cast<std::size_t>(end - m_out.data()));
-    }
+    void CutAt(char16_t const * end) { m_out.resize(static_cast<std::size_t>(end - m_out.data())); }
 
     template <class Integer>
     void PutNumber(Integer value)

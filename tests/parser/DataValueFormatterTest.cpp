@@ -15,6 +15,8 @@
 #include "tests/support/ValueTextModel.h"
 #include "velcoredata/data/XMLEnumException.h"
 #include "velcoredata/utility/FeatureFlags.h"
+#include "velgeo/SpatialTextError.h"
+#include "velgeo/WktSerialization.h"
 
 namespace {
 
@@ -46,7 +48,8 @@ Options RandomOptions(RandomAnyValue & random)
     options.numberStyle = static_cast<DataValueFormatter::NumberStyle>(random.Below(4) == 0 ? 1 : 0);
     for (bool Options::*const option :
          {&Options::quoteStrings, &Options::delimitDates, &Options::parenthesizeTuples, &Options::escapeDelimiters,
-          &Options::showTrailingZeros, &Options::inheritOptionsInTuples, &Options::spatialAsTypeName})
+          &Options::showTrailingZeros, &Options::inheritOptionsInTuples, &Options::spatialAsWkt,
+          &Options::spatialAsTypeName})
         options.*option = random.Below(2) == 0;
     if (random.Below(4) == 0)
         options.realDigits = static_cast<int>(random.Below(30)) - 2;
@@ -156,6 +159,27 @@ TEST(DataValueFormatter, OptionsTakeThingsAway)
     Options names;
     names.spatialAsTypeName = true;
     EXPECT_EQ(Format(DataValue(MakeSpatial(1, 2, velgeo::ShapeType::MultiPolygon)), names), TString(u"MultiPolygon"));
+}
+
+TEST(DataValueFormatter, SpatialObjectsAreHashesKindsOrText)
+{
+    DataValue const line(
+        std::shared_ptr<velgeo::Spatial const>(velgeo::WktSerialization::Read("LINESTRING (1 2, 3 0.5)", 3)));
+    EXPECT_EQ(Format(line), TString::number(static_cast<unsigned long long>(line.GetSpatial()->GetHash())));
+    Options options;
+    options.spatialAsTypeName = true;
+    EXPECT_EQ(Format(line, options), TString(u"LineString"));
+    options.spatialAsWkt = true;
+    EXPECT_EQ(Format(line, options), TString(u"LINESTRING (1 2, 3 0.5)"));
+    // In a tuple the text is escaped like any other, if the option is inherited.
+    EXPECT_EQ(Format(TupleOf({line}), options), u'(' + Format(line) + u')');
+    options.inheritOptionsInTuples = true;
+    EXPECT_EQ(Format(TupleOf({line, DataValue(1)}), options), TString(u"(LINESTRING (1 2\\, 3 0.5\\),1)"));
+    // An object of unknown kind has no text.
+    DataValue const unknown(MakeSpatial(1, 2, velgeo::ShapeType::Unknown));
+    EXPECT_THROW(Format(unknown, options), velgeo::SpatialTextError);
+    options.spatialAsWkt = false;
+    EXPECT_EQ(Format(unknown, options), TString(u"Unknown"));
 }
 
 TEST(DataValueFormatter, InvalidCharactersAreWrittenByTheirCodes)

@@ -88,7 +88,7 @@ DataValue Kept(DataValue const & value, Attributes const * attributes, Options c
         return DataValue(DateTime::FromValue(representation - representation % 10000 + milliseconds * 10), type);
     }
     case DataType::String: return attributes != nullptr ? value : DataValue::FromString(value.GetString());
-    case DataType::Spatial: return DataValue(value.GetSpatial()->GetHash());
+    case DataType::Spatial: return options.spatialAsWkt ? value : DataValue(value.GetSpatial()->GetHash());
     case DataType::Binary: return DataValue(DataValueTypes::Normal, attributes != nullptr ? type : DataType::Unknown);
     case DataType::Tuple: {
         Options const & inner = options.inheritOptionsInTuples ? options : kDefaults;
@@ -123,6 +123,7 @@ bool Alike(DataValue const & a, DataValue const & b)
         auto const & bs = b.GetTuple()->GetValues();
         return as.size() == bs.size() && std::equal(as.begin(), as.end(), bs.begin(), Alike);
     }
+    case DataType::Spatial: return *a.GetSpatial() == *b.GetSpatial();
     default: return a.GetAny() == b.GetAny();
     }
 }
@@ -167,6 +168,15 @@ TEST(ValueTextReader, ReadsTheDecimalStyle)
     ReadBack(82, options, 100000);
     options.inheritOptionsInTuples = true;
     ReadBack(83, options, 100000);
+}
+
+TEST(ValueTextReader, ReadsSpatialObjects)
+{
+    Options options;
+    options.spatialAsWkt = true;
+    ReadBack(84, options, 100000);
+    options.inheritOptionsInTuples = true;
+    ReadBack(85, options, 100000);
 }
 
 TEST(ValueTextReader, ReadsAThousandLevels)

@@ -5,11 +5,14 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "tests/support/RandomText.h"
 #include "tests/support/ValueSamples.h"
+#include "velgeo/WktSerialization.h"
 
 namespace test_support {
 
@@ -37,7 +40,7 @@ public:
         case DataType::String: return DataValue(m_collations[Below(m_collations.size())], String());
         case DataType::Tuple: return AnyTuple(depth);
         case DataType::Binary: return BinaryOf({'x'});
-        case DataType::Spatial: return DataValue(MakeSpatial(1, Bits() >> Below(64)));
+        case DataType::Spatial: return DataValue(Spatial());
         default: return DataValue(DataValueTypes::Normal, type);
         }
     }
@@ -101,6 +104,21 @@ private:
     {
         std::uint64_t const high = m_text.Generator()();
         return high << 32 | m_text.Generator()();
+    }
+    std::shared_ptr<velgeo::Spatial const> Spatial()
+    {
+        auto const point = [&] {
+            return std::to_string(Below(180)) + ' ' + std::to_string(static_cast<double>(Below(9000)) / 100);
+        };
+        std::string wkt;
+        switch (Below(5)) {
+        case 0: wkt = "POINT (" + point() + ")"; break;
+        case 1: wkt = "LINESTRING (0 0, " + point() + ")"; break;
+        case 2: wkt = "POLYGON ((0 0, 1 0, 1 1, 0 0))"; break;
+        case 3: wkt = "GEOMETRYCOLLECTION (POINT (" + point() + "), MULTIPOINT ((" + point() + "), EMPTY))"; break;
+        default: wkt = "POINT EMPTY";
+        }
+        return velgeo::WktSerialization::Read((Below(3) == 0 ? "SRID=4326;" : "") + wkt, 3);
     }
     DateTime Day()
     {

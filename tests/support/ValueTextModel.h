@@ -13,6 +13,7 @@
 #include "velcoredata/parser/DataValueFormatter.h"
 #include "velcoreplatform/CorePlatformUtils.h"
 #include "velgeo/Spatial.h"
+#include "velgeo/WktSerialization.h"
 
 namespace test_support {
 
@@ -133,7 +134,9 @@ public:
         m_result.clear();
         if (value == nullptr)
             return;
-        if (m_options.spatialAsTypeName)
+        if (m_options.spatialAsWkt)
+            m_result = TString::fromStdString(velgeo::WktSerialization::Write(*value));
+        else if (m_options.spatialAsTypeName)
             m_result = TString::fromStdString(velgeo::to_string(value->GetShapeType()));
         else
             m_result = TString::number(static_cast<unsigned long long>(value->GetHash()));

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -11,6 +12,7 @@
 
 #include "velcoredata/data/Collation.h"
 #include "velcoredata/data/Tuple.h"
+#include "velgeo/WktSerialization.h"
 #include "velsys/VeltriaException.h"
 
 namespace test_support {
@@ -126,7 +128,7 @@ private:
         case DataType::Boolean: return ReadBoolean(text);
         case DataType::Date: return ReadDate(text);
         case DataType::Tuple: return ReadTuple(text, nullptr, std::nullopt, depth);
-        case DataType::Spatial: return ReadHash(text);
+        case DataType::Spatial: return ReadSpatial(text);
         case DataType::Time: return ReadTime(text);
         case DataType::Binary:
         case DataType::Unknown:
@@ -149,6 +151,8 @@ private:
         case u'f': return DataType::Boolean;
         default: break;
         }
+        if (text[0] >= u'A' && text[0] <= u'Z')
+            return DataType::Spatial;
         if (text.find(u':') != text.npos)
             return DataType::Time;
         // A point, an exponent, or one of the words; or an infinity of the decimal style.
@@ -175,6 +179,17 @@ private:
         if (auto const number = WholeNumber<unsigned long long>(text))
             return DataValue(*number);
         return std::nullopt;
+    }
+
+    static Value ReadSpatial(View text)
+    {
+        if (auto hash = ReadHash(text))
+            return hash;
+        if (text.empty())
+            return DataValue(DataValueTypes::Normal, DataType::Spatial);
+        std::shared_ptr<velgeo::Spatial const> spatial =
+            velgeo::WktSerialization::TryRead(TString::fromView(text).toStdString(), 3);
+        return spatial == nullptr ? Value() : Value(DataValue(std::move(spatial)));
     }
 
     Value ReadReal(View text, bool typed) const
