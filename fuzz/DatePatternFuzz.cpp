@@ -1,5 +1,6 @@
 #include <iterator>
 
+#include "fuzz/support/DeadlyNumbers.h"
 #include "fuzz/support/FuzzText.h"
 #include "tests/support/DateSearchPair.h"
 #include "tests/support/QuietLogger.h"

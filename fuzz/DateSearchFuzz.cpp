@@ -1,5 +1,6 @@
 #include <iterator>
 
+#include "fuzz/support/DeadlyNumbers.h"
 #include "fuzz/support/FuzzText.h"
 #include "tests/support/DateSearchPair.h"
 #include "tests/support/QuietLogger.h"
@@ -17,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
     DateSearchPair pair(locales[data[0] % std::size(locales)]);
     pair.StartAnew((data[1] & 1) == 0, (data[1] & 2) == 0);
     for (TString const & line : fuzz_support::Lines(data + 2, size - 2, 4)) {
-        if (line.isEmpty())
+        if (line.isEmpty() || fuzz_support::HasDeadlyNumbers(line.View()))
             continue;
         unsigned const step = line[0];
         DateTime const reference(2001, 2, 3, 4, 5, 6, 0);
