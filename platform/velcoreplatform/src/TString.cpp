@@ -10,7 +10,9 @@
 #include <QtCore/QStringEncoder>
 #include <QtCore/QStringList>
 
+#include "velcoreplatform/NumberText.h"
 #include "velcoreplatform/RealText.h"
+#include "velsys/Arithmetic.h"
 
 namespace {
 
@@ -35,11 +37,24 @@ int Start(int from, int length)
     return from < 0 ? std::max(0, length + from) : from;
 }
 
+// Written in place: a copy from a buffer would take as long as the digits.
+TString DecimalText(unsigned long long magnitude, bool negative)
+{
+    int const length = detail::DigitCount(magnitude) + (negative ? 1 : 0);
+    QString text(length, Qt::Uninitialized);
+    char16_t * const units = reinterpret_cast<char16_t *>(text.data());
+    units[0] = u'-';
+    detail::WriteInteger(units + length, magnitude);
+    return text;
+}
+
 template <class Integer>
 TString FormatInteger(Integer value, int fieldWidth, int base, char16_t fill)
 {
     if (base < 2 || base > 36)
         base = 10;
+    if (base == 10 && fieldWidth == 0)
+        return DecimalText(detail::Magnitude(value), value < 0);
     char digits[72];
     auto const end = std::to_chars(digits, digits + sizeof digits, value, base).ptr;
     QString text = QString::fromLatin1(digits, end - digits);
