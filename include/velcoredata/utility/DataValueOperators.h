@@ -23,6 +23,8 @@
 // test the divisor. Reals follow IEEE 754.
 #pragma once
 
+#include <utility>
+
 #include "velcoredata/core/Export.h"
 #include "velcoredata/data/DataValue.h"
 
@@ -75,6 +77,44 @@ public:
     // the type; Integer and Real cast to each other (a Real truncates), Date and DateTime too. Throws for everything
     // else.
     DataValue Cast(DataValue const & value, DataType target) const;
+
+    /// The cast that a user asks for. The same type gives a copy and a marker keeps the marker, as in Cast; what does
+    /// not go gives the marker %error% of the target type, not an exception:
+    ///
+    ///   from \ to          Integer            Real               String           Date, DateTime     Spatial
+    ///   Integer            copy               1 is 1.0           "1"              days, below        %error%
+    ///   Real               truncates          copy               "1.5", "3."      days, below        %error%
+    ///   String             StringToInt        StringToReal       copy             any known pattern  WKT, GeoJSON
+    ///   Date, DateTime     whole days         days               below            Cast               %error%
+    ///   Boolean            1, 0               1.0, 0.0           "1", "0"         %error%            %error%
+    ///   any other          %error%            %error%            %error%          %error%            %error%
+    ///
+    /// All other targets are %error%: nothing casts to Boolean. Days count from 1900-01-01: 0 is that day, 1.5 is
+    /// 1900-01-02 12:00. An Integer is cut to 32 bits first. Numbers become text as a default DataValueFormatter writes
+    /// them, dates as "January 02 1900 12:00AM", a Date too. Text is tried as DateTime::ParseDateTimeTryAllFormats
+    /// does; text that is no shape becomes the null Spatial, not %error%. Results that are text have the unknown
+    /// collation. A day outside the range of dates gives a null, but a Real of more days than 64 bits hold ticks,
+    /// 1e300, gives 1899-12-30.
+    ///
+    /// A target of Tuple throws "DataValue::MakeSpecial: bad argument" ("VeltriaException_AutoGen_0xC3E581B1", for a
+    /// marker "VeltriaException_AutoGen_0x230EF8C1"), unless the value is a Tuple. A day before the year 400 cannot be
+    /// cut to a Date: it throws "VeltriaException_AutoGen_0xDD90F63D". A failing cast of text throws nothing on the
+    /// inside either.
+    DataValue ExplicitCast(DataValue const & value, DataType target) const;
+
+    /// As TString::toLongLong in base 10 reads it, else StringToReal truncated and saturated: "1.9" is 1, "1e30" the
+    /// highest integer. 2^63 itself ("9223372036854775808") is the lowest. Throws as StringToReal does.
+    long long StringToInt(TString const & text) const;
+    /// As TString::toDouble reads it. Throws DataValueOperatorException "Error parsing number",
+    /// "DataValueOperatorException_AutoGen_0x5EA10C38"; SetThrow has no say in this.
+    ///
+    ///   StringToReal(DataValue(x).FormatAsLiteral()) == x, bit for bit, for every finite x
+    double StringToReal(TString const & text) const;
+    /// Precision and scale of decimal text: the count of its digits, leading zeros too, and of those behind the point.
+    /// "-12.345" is (5, 3), "" is (0, 0). (-1, -1) for 17 digits and more, a second point or sign, a "-" behind a
+    /// digit, and any other character: "+5", "1e3".
+    static std::pair<signed char, signed char>
+    GetImplicitPrecisionAndScaleFromDecimalFormattedAsString(TString const & text);
 
     // Readers: the type alone is tested, a marker reads as its zero payload. Throw the one-type error for other types.
     long long AsInt(DataValue const & value) const;
@@ -134,6 +174,11 @@ private:
     [[gnu::noinline]] DataValue CombineByCast(DataValue const & a, DataValue const & b) const;
     DataValue DateAdd(DataValue const & a, DataValue const & b) const;
     DataValue DateSubtract(DataValue const & a, DataValue const & b) const;
+    // The rows of the cast matrix, for values without a marker and another target type.
+    DataValue CastNumber(DataValue const & value, DataType target) const;
+    static DataValue CastText(DataValue const & value, DataType target);
+    DataValue CastDate(DataValue const & value, DataType target) const;
+    DataValue CastBoolean(DataValue const & value, DataType target) const;
     [[noreturn]] void ThrowTypeException(DataType type) const;
     [[noreturn]] void ThrowTypeException(DataType a, DataType b) const;
     void CrashIfAsked() const;
