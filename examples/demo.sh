@@ -8,7 +8,7 @@ run() {
     printf '\n$ typedtable'
     for word in "$@"; do
         case $word in
-        *[\ \>\<]*) printf " '%s'" "$word" ;;
+        *[][\ \>\<]*) printf " '%s'" "$word" ;;
         *) printf ' %s' "$word" ;;
         esac
     done
@@ -22,6 +22,7 @@ run examples/data/weather.csv --group-by date:iso-year --count --mean wind --min
 run examples/data/weather.csv --where 'temp_max > 35' --sort temp_max
 run examples/data/weather.csv --where 'precipitation > 0' --sum precipitation --mean wind --min temp_min --max temp_max
 run examples/data/weather.csv --distinct weather --count --mean temp_max
+run examples/data/weather.csv --where '[weather].[temp_max] > 35' --mean '[weather].[wind]'
 run examples/data/airports.csv --sort name --collation LEN_RUS_S2 --rows 10
 run examples/data/airports.csv --find lafayette --sort city --locale en_US --ignore-case
 run examples/data/weather.csv --group-by date:year --max temp_max --language de

@@ -159,9 +159,19 @@ TEST(QualifiedNameParse, SaysTheErrorInTheLanguageOfTheSession)
     ScopedSession const session;
     CoreThreadContext::SetGenericObject(TString(u"locale"),
                                         std::make_shared<boost::any>(std::make_shared<TLocale>(TString(u"de_DE"))));
-    EXPECT_THAT([] { QualifiedName::ParseGlobal(u"a"); },
-                ThrowsError("VeltriaException_QualifiedNameParseException_0x5F1F5407",
-                            "Qualified Name Parse Error --- Ungültige Eingabe: „[“ erwartet --- Input: a"));
+    Bad const texts[] = {
+        {u"a", "5F1F5407", "Ungültige Eingabe: „[“ erwartet"},
+        {u"[a].b", "5F1F5408", "Ungültige Eingabe: „[“ erwartet"},
+        {u"[", "5F1F5409", "Ungültige Eingabe: „[“ ohne Abschluss"},
+        {u"[a", "5F1F540A", "Ungültige Eingabe: nicht zusammenpassende Klammern"},
+        {u"[a]b", "5F1F540B", "Ungültige Eingabe: „.“ erwartet"},
+        {u"[a].", "5F1F540C", "Ungültige Eingabe: „.“ ohne Fortsetzung"},
+    };
+    for (Bad const & bad : texts)
+        EXPECT_THAT([&] { QualifiedName::ParseGlobal(bad.text); },
+                    ThrowsError(std::string("VeltriaException_QualifiedNameParseException_0x") + bad.code,
+                                std::string("Qualified Name Parse Error --- ") + bad.message +
+                                    " --- Input: " + bad.text.toStdString()));
 }
 
 TEST(QualifiedNameParse, AnExceptionKeepsItsClassThroughCloneAndThrow)

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <set>
 #include <sstream>
 #include <type_traits>
@@ -29,6 +31,22 @@ static_assert(std::has_virtual_destructor_v<QualifiedName>);
 static_assert(sizeof(QualifiedName) == sizeof(void *) + sizeof(std::shared_ptr<int>), "one data member");
 static_assert(std::is_nothrow_copy_constructible_v<QualifiedName>);
 static_assert(std::is_nothrow_move_constructible_v<QualifiedName>);
+static_assert(std::is_same_v<decltype(QualifiedName().GetComponents()), Components const &>);
+static_assert(std::is_same_v<decltype(QualifiedName().GetFullValue()), TString const &>);
+static_assert(std::is_same_v<decltype(QualifiedName().Hash()), unsigned>);
+
+// Names are made and dropped while the process ends, too.
+struct AtExit
+{
+    QualifiedName name{u"a", u"b"};
+    ~AtExit()
+    {
+        QualifiedName none;
+        if (name.PopLeafValue().PopLeafValue() != none || !none.GetFullValue().isEmpty() ||
+            !none.TryGetRootValue().isEmpty() || name.GetFullValue() != u"[a].[b]")
+            std::abort();
+    }
+} const s_atExit;
 
 // Runs a changing operation on a name that has a copy: the copy stays as it was.
 template <class Change>
