@@ -140,6 +140,15 @@ TEST(TLocaleDateSearch, PatternsOfALocale)
     EXPECT_EQ(Reader(u"th_TH@calendar=buddhist").Parse(u"2563-01-02", u"yyyy-MM-dd"), Day(2563, 1, 2));
 }
 
+TEST(TLocaleDateSearch, TheZoneOfATextIsForgotten)
+{
+    Reader reader;
+    EXPECT_EQ(reader.Parse(u"2020-01-01 05:00 Pacific Time", u"yyyy-MM-dd HH:mm vvvv"),
+              DateTime(2020, 1, 1, 5, 0, 0, 0.0));
+    // An hour that the zone skips.
+    EXPECT_EQ(reader.Parse(u"2020-03-08 02:30", u"yyyy-MM-dd HH:mm"), DateTime(2020, 3, 8, 2, 30, 0, 0.0));
+}
+
 TEST(TLocaleDateSearch, FirstPatternOfANullPointerIsAnAssertion)
 {
     Reader reader;

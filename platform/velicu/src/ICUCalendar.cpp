@@ -95,6 +95,9 @@ std::unique_ptr<ICUCalendar> ICUCalendar::clone() const
 void ICUCalendar::clear() noexcept
 {
     m_native->calendar->clear();
+    // Reading a text with a time zone puts the calendar into that zone.
+    if (m_native->calendar->getTimeZone() != *icu::TimeZone::getGMT())
+        m_native->calendar->setTimeZone(*icu::TimeZone::getGMT());
 }
 
 void ICUCalendar::set(int year, int month, int day) noexcept

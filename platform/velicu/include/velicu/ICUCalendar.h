@@ -44,7 +44,7 @@ public:
     virtual ~ICUCalendar();
     std::unique_ptr<ICUCalendar> clone() const;
 
-    // Forgets all fields: getTime then gives 1970-01-01 00:00:00.
+    // Forgets all fields, and the zone that a text was read in: getTime then gives 1970-01-01 00:00:00.
     void clear() noexcept;
     // Fields that are not given stay as they are. Unknown field numbers change nothing.
     void set(int year, int month, int day) noexcept;
