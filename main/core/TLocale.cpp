@@ -59,6 +59,7 @@ TLocale const & TLocale::operator=(TLocale const & other)
     m_languageCode = std::move(languageCode);
     m_calendar.reset();
     m_formatterCache.reset();
+    m_digits = Digits::Unasked;
     m_parseCount = 0;
     m_lastParseNative = false;
     m_parseNative = other.m_parseNative;

@@ -1,5 +1,6 @@
 // The members of TLocale that print dates and times.
 
+#include "main/core/DateDigits.h"
 #include "main/core/NativeDateText.h"
 #include "velcoredata/core/TLocale.h"
 #include "velcoredata/data/DateTime.h"
@@ -50,7 +51,26 @@ VelICU::ICUDateFormat const & TLocale::GetICUDateFormat(char16_t const * pattern
     return *m_dateFormatCache.emplace(key, std::move(format)).first->second;
 }
 
+bool TLocale::PrintsASCIIDigits() const
+{
+    Digits digits = m_digits.load(std::memory_order_relaxed);
+    if (digits == Digits::Unasked) {
+        digits = detail::HasASCIIDigits(*OnGregorianCalendar(*m_icuLocale)) ? Digits::ASCII : Digits::Other;
+        m_digits.store(digits, std::memory_order_relaxed);
+    }
+    return digits == Digits::ASCII;
+}
+
 TString TLocale::Format(DateTime const & value, char16_t const * pattern) const
+{
+    TString text;
+    if (m_digits.load(std::memory_order_relaxed) != Digits::Other && detail::FormatDateDigits(value, pattern, text) &&
+        PrintsASCIIDigits())
+        return text;
+    return FormatByICU(value, pattern);
+}
+
+TString TLocale::FormatByICU(DateTime const & value, char16_t const * pattern) const
 {
     VelICU::ICUDateFormat const & format = GetICUDateFormat(pattern);
     VelICU::ICUErrorCode success = VelICU::U_ZERO_ERROR;

@@ -15,6 +15,11 @@ struct TLocalePeer
     {
         return locale.GetICUDateFormat(pattern);
     }
+    // The plain road of TLocale::Format.
+    static TString FormatByICU(TLocale const & locale, DateTime const & value, char16_t const * pattern)
+    {
+        return locale.FormatByICU(value, pattern);
+    }
     static std::size_t CountFormats(TLocale const & locale) { return locale.m_dateFormatCache.size(); }
 
     // The state of an object that has read dates.

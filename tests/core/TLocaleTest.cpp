@@ -36,6 +36,7 @@ string IsoString(TLocale const & locale)
 }
 
 constexpr char16_t DAY_PATTERN[] = u"yyyy-MM-dd";
+constexpr char16_t NAMED_DAY_PATTERN[] = u"EEE yyyy-MM-dd";  // takes a format of ICU's
 constexpr double FIRST_DAY_OF_2020 = 1577836800000.0;
 
 string PrintDay(VelICU::ICUDateFormat const & format)
@@ -340,12 +341,12 @@ TEST(TLocale, ReadingDoesNotWaitForPrinting)
 TEST(TLocale, CopyingAndPrintingAgainShareTheFormats)
 {
     TLocale const locale(u"en_US");
-    locale.Format(SOME_DAY, DAY_PATTERN);
+    locale.Format(SOME_DAY, NAMED_DAY_PATTERN);
     TReadWriteLock & lock = TLocalePeer::GetFormatLock(locale);
     lock.LockRead();
     EXPECT_TRUE(EndsUnderTheLock(
         [&] {
-            EXPECT_EQ(locale.Format(SOME_DAY, DAY_PATTERN), TString(u"2020-02-29"));
+            EXPECT_EQ(locale.Format(SOME_DAY, NAMED_DAY_PATTERN), TString(u"Sat 2020-02-29"));
             EXPECT_EQ(TLocalePeer::CountFormats(TLocale(locale)), 1u);
             TLocale assigned(u"de_DE");
             assigned = locale;

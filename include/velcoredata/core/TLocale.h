@@ -79,10 +79,10 @@ public:
     // Dates and times to text, in the locale's names and digits. The calendar is the Gregorian one, a calendar that the
     // locale was made with notwithstanding; it is that of reading only.
 
-    /// By a pattern in ICU's letters, whose format is kept for the object's lifetime: "d. MMMM yyyy" is "2. Januar
-    /// 2020" in de_DE. Milliseconds are those of DateTime::GetMilliseconds, truncated from ticks. Logic assertions with
-    /// "VelICU::ICU_SUCCESS(success)" if ICU has no format (LogicException_LogicAssert_0x75D2209A) or no calendar
-    /// (LogicException_LogicAssert_0x0F8E9B42) to give.
+    /// By a pattern in ICU's letters, whose format is kept for the object's lifetime where ICU is needed: "d. MMMM
+    /// yyyy" is "2. Januar 2020" in de_DE. Milliseconds are those of DateTime::GetMilliseconds, truncated from ticks.
+    /// Logic assertions with "VelICU::ICU_SUCCESS(success)" if ICU has no format
+    /// (LogicException_LogicAssert_0x75D2209A) or no calendar (LogicException_LogicAssert_0x0F8E9B42) to give.
     TString Format(DateTime const & value, char16_t const * pattern) const;
     /// In the platform's own style of the locale, "1/2/2020 3:04:05 AM": the date, the time, or both. "Invalid
     /// DateTime" for a value that the platform does not print.
@@ -224,6 +224,9 @@ private:
 
     DateFormatCache CloneICUDateFormatCache() const;
     VelICU_V2::ICUDateFormat const & GetICUDateFormat(char16_t const * pattern) const;
+    // What Format does where digits alone will not do.
+    TString FormatByICU(DateTime const & value, char16_t const * pattern) const;
+    bool PrintsASCIIDigits() const;
 
     // Reading; all but the first are called under m_parseMutex.
     bool ParseDateTimeUsingNativeAPIs(char16_t const * text, DateTime & out, DateTime const & reference,
@@ -246,6 +249,13 @@ private:
     std::unique_ptr<VelICU_V2::ICULocale> m_icuLocale;
     std::unique_ptr<LanguageCode> m_languageCode;
     mutable DateFormatCache m_dateFormatCache;  // by pattern; grows only
+    enum class Digits : std::int8_t
+    {
+        Unasked,
+        ASCII,
+        Other
+    };
+    mutable std::atomic<Digits> m_digits = Digits::Unasked;  // with which the locale prints dates; asked of ICU once
     // What reading dates fills, under m_parseMutex. The calendar is built anew after 100,000 readings.
     mutable std::unique_ptr<VelICU_V2::ICUCalendar> m_calendar;
     mutable TRecursiveMutex m_parseMutex;
