@@ -33,6 +33,12 @@ void ReadThrough(InputFile & file, Inferences & inferences, void (DateInference:
     }
 }
 
+std::string PatternText(DateColumn const & dates)
+{
+    TString const & pattern = dates.GetWinner().pattern;
+    return pattern.isEmpty() ? Text("(own styles)") : pattern.toStdString();
+}
+
 // Cells with the day first, then with the month first; "-" where the order is not known.
 std::pair<std::string, std::string> BothOrders(DateColumn const & dates)
 {
@@ -73,6 +79,18 @@ void FindDates(InputFile & file, Schema & schema, TLocale const & locale)
     }
 }
 
+void WarnOfDates(std::ostream & out, std::string const & fileName, Schema const & schema)
+{
+    for (auto const & column : schema.columns) {
+        if (column.dates == nullptr || column.dates->GetDisagreeing() == 0)
+            continue;
+        long long const others = column.dates->GetDisagreeing();
+        out << OnOneLine(Text("%1: column \"%2\": %3 of %4 cells are not written as %5", fileName, column.name, others,
+                              others + column.dates->GetWinner().cells, PatternText(*column.dates)))
+            << '\n';
+    }
+}
+
 void PrintDates(std::ostream & out, Schema const & schema)
 {
     TextTable table;
@@ -87,8 +105,7 @@ void PrintDates(std::ostream & out, Schema const & schema)
         any = true;
         DatePattern const & winner = column.dates->GetWinner();
         auto const [dayFirst, monthFirst] = BothOrders(*column.dates);
-        std::string const pattern = winner.pattern.isEmpty() ? Text("(own styles)") : winner.pattern.toStdString();
-        table.AddRow({OnOneLine(column.name), OnOneLine(pattern), std::to_string(winner.cells),
+        table.AddRow({OnOneLine(column.name), OnOneLine(PatternText(*column.dates)), std::to_string(winner.cells),
                       std::to_string(column.dates->GetDisagreeing()), dayFirst, monthFirst});
     }
     if (!any)

@@ -18,4 +18,8 @@ void FindDates(InputFile & file, Schema & schema, TLocale const & locale);
 /// with the day first and with the month first. Nothing where there is no such column.
 void PrintDates(std::ostream & out, Schema const & schema);
 
+/// A line for each such column with cells that are written in another way than the others, where PrintDates does not
+/// tell it.
+void WarnOfDates(std::ostream & out, std::string const & fileName, Schema const & schema);
+
 }  // namespace typedtable

@@ -60,6 +60,7 @@ Schema ReadTypes(Options const & options, InputFile & file, std::size_t firstRow
 void PrintRows(std::ostream & out, Options const & options, Collation const & collation, InputFile & file)
 {
     Schema const schema = ReadTypes(options, file, 0);
+    WarnOfDates(std::cerr, file.GetName(), schema);
     auto const sink = MakeSink(options, schema);
     RowFilter const filter(options.filter, schema, collation, options.sqlNulls);
     std::vector<std::size_t> columns = sink->GetColumns();

@@ -91,6 +91,15 @@ class Dates(Program):
         self.assertEqual(report_of(text)[0][2:], ["2", "2", "1", "2"])
         self.assertIn("2020-01-14  1\n2020-02-15  1\n2020-03-16  1\n2020-04-17  1\n", text)
 
+    def test_cells_that_disagree_are_told_of_with_every_task(self):
+        path = self.write("when\n01/14/2020\n02/15/2020\n2020-04-17\n")
+        result = run(path, "--dates-in", "en_US", "--sort", "when")
+        self.assertEqual(result.returncode, 0)
+        self.assertEqual(result.stdout.decode(), "when\n2020-01-14\n2020-02-15\n2020-04-17\n3 rows\n")
+        self.assertEqual(result.stderr.decode(),
+                         path + ': column "when": 1 of 3 cells are not written as MM/dd/yyyy\n')
+        self.assertEqual(run(path, "--dates-in", "en_US").stderr, b"")
+
     def test_what_is_ambiguous_is_read_as_the_locale_has_it(self):
         cells = ["01/02/2020", "03/04/2020"]
         self.assertIn("2020-01-02  1\n2020-03-04  1\n", self.column(cells, "--dates-in", "en_US"))

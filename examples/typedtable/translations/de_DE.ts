@@ -475,5 +475,9 @@
         <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
         <translation>--locale braucht --sort, --distinct, --find, --where, --min, --max oder --dates-as</translation>
     </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are not written as %5</source>
+        <translation>%1: Spalte „%2“: %3 von %4 Zellen sind nicht als %5 geschrieben</translation>
+    </message>
 </context>
 </TS>

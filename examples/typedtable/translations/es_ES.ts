@@ -475,5 +475,9 @@
         <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
         <translation>--locale necesita --sort, --distinct, --find, --where, --min, --max o --dates-as</translation>
     </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are not written as %5</source>
+        <translation>%1: columna «%2»: %3 de %4 celdas no están escritas como %5</translation>
+    </message>
 </context>
 </TS>

@@ -475,5 +475,9 @@
         <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
         <translation>--locale nécessite --sort, --distinct, --find, --where, --min, --max ou --dates-as</translation>
     </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are not written as %5</source>
+        <translation>%1 : colonne « %2 » : %3 cellules sur %4 ne sont pas écrites comme %5</translation>
+    </message>
 </context>
 </TS>

@@ -475,5 +475,9 @@
         <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
         <translation>--locale には --sort、--distinct、--find、--where、--min、--max、--dates-as のいずれかが必要です</translation>
     </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are not written as %5</source>
+        <translation>%1：列「%2」：%4 個のセルのうち %3 個は %5 の形で書かれていません</translation>
+    </message>
 </context>
 </TS>

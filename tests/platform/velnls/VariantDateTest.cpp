@@ -296,6 +296,35 @@ TEST(VariantDate, WhatIsPrintedIsReadBackInEveryLocaleWithAPublishedName)
     }
 }
 
+TEST(VariantDate, WhatIsReadOutOfSpoiltTextsIsInRangeAndReadsTheSameFromItsPrint)
+{
+    static constexpr std::u16string_view marks = u" /-.,:TaAPpmMe0123456789\u00A0\u0661";
+    std::mt19937 random(20240229);
+    auto const below = [&](std::size_t n) { return random() % n; };
+    int read = 0;
+    for (VelNLS::PublishedLocaleName const & locale : VelNLS::GetPublishedLocaleNames()) {
+        for (int i = 0; i < 40; ++i) {
+            double const time = static_cast<double>(below(86400)) / 86400;
+            std::u16string text = Print(static_cast<double>(below(2900000)) + time, locale.lcid);
+            for (std::size_t n = 1 + below(2); n > 0; --n) {
+                std::size_t const at = below(text.size());
+                if (below(2) == 0)
+                    text[at] = marks[below(marks.size())];
+                else
+                    text.erase(at, 1);
+            }
+            double date = sentinel;
+            if (VarDateFromStr(text, locale.lcid, 0, date) < 0)
+                continue;
+            ++read;
+            double again = sentinel;
+            ASSERT_EQ(VarDateFromStr(Print(date, locale.lcid), locale.lcid, 0, again), S_OK) << locale.name;
+            ASSERT_EQ(again, date) << locale.name << ' ' << Utf8(text);
+        }
+    }
+    EXPECT_GT(read, 2000);
+}
+
 TEST(VariantDate, ManyThreadsReadAndPrintInMoreLocalesThanAreKept)
 {
     auto const names = VelNLS::GetPublishedLocaleNames();
