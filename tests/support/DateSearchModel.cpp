@@ -251,6 +251,7 @@ void DateSearchModel::MakeStyled(int dateStyle, int timeStyle)
 DateSearchModel::Result DateSearchModel::TryOnce(std::u16string_view text, DateTime const & reference, int options)
 {
     m_calendar->clear();
+    m_calendar->setTimeZone(*icu::TimeZone::getGMT());  // a text with a zone leaves the calendar in it
     if (reference.IsValid())
         m_calendar->set(reference.GetYear(), reference.GetMonth() - 1, reference.GetDay());
     else
