@@ -106,4 +106,9 @@ StringId ColorName(float hue, float saturation, float value) noexcept
     return names[row][ShadeOf(saturation, value)];
 }
 
+StringId ColorNameOfCell(unsigned row, unsigned shade) noexcept
+{
+    return names[row][shade];
+}
+
 }  // namespace CoreData::detail

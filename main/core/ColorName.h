@@ -10,4 +10,8 @@ namespace CoreData::detail {
 // count.
 VELCOREDATA_API StringId ColorName(float hue, float saturation, float value) noexcept;
 
+// The key of a cell: rows gray, red, orange, yellow, yellow-green, green, teal, blue, purple, pink, brown, from 0;
+// shades plain, very light, light, dark, very dark, from 0. Some cells are reached by no colour.
+VELCOREDATA_API StringId ColorNameOfCell(unsigned row, unsigned shade) noexcept;
+
 }  // namespace CoreData::detail

@@ -1,6 +1,6 @@
 #include "main/core/ColorName.h"
 
-#include <cmath>
+#include <cstdio>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -12,47 +12,11 @@ namespace {
 using CoreData::StringId;
 using CoreData::detail::ColorName;
 
-// A colour for each shade whose saturation and value leave room around every bound.
-struct Point
-{
-    float saturation;
-    float value;
-};
-
-TEST(ColorName, EveryRowAndShadeHasItsText)
-{
-    struct Row
-    {
-        float hue;
-        float adjustment;       // what the shade's saturation is less than the colour's
-        char const * names[5];  // plain, very light, light, dark, very dark
-    };
-    static Row const rows[] = {
-        {0.98F, 0, {"Red", "0xC36CA448", "Pink", "Dark Red", "Brown"}},
-        {0.30F, 0, {"Green", "Very Light Green", "Light Green", "0xCDF4ACC5", "Very Dark Green"}},
-        {0.45F, 0.09F, {"Teal", "Very Light Teal", "Light Teal", "Dark Teal", "Very Dark Teal"}},
-        {0.60F, 0, {"0xADA12D80", "Very Light Blue", "0x9071C701", "Dark Blue", "Very Dark Blue"}},
-        {0.75F, -0.06F, {"0x92EA1040", "Very Light Purple", "Light Purple", "Dark Purple", "Very Dark Purple"}},
-        {0.91F, -0.08F, {"Pink", "Very Light Pink", "0xD249D299", "Dark Pink", "Very Dark Pink"}},
-        {0.20F, 0, {"Yellow-Green", "Very Light Yellow-Green", "Light Yellow-Green", "Dark Yellow-Green", "Dark Gray"}},
-    };
-    static Point const points[] = {{0.8F, 0.75F}, {0.2F, 0.95F}, {0.4F, 0.75F}, {0.9F, 0.3F}, {0.9F, 0.18F}};
-    for (Row const & row : rows)
-        for (int shade = 0; shade < 5; ++shade) {
-            StringId const id = ColorName(row.hue, points[shade].saturation + row.adjustment, points[shade].value);
-            std::string const expected = row.names[shade];
-            if (expected.starts_with("0x"))
-                EXPECT_EQ(static_cast<unsigned>(id), std::stoul(expected, nullptr, 16)) << row.hue << ' ' << shade;
-            else
-                EXPECT_EQ(CoreData::LookupTStrExported(id).toStdString(), expected) << row.hue << ' ' << shade;
-        }
-}
-
-std::string NameOrId(float h, float s, float v)
+// English; the names that are known by the number of their key only, as that number.
+std::string NameOrId(StringId id)
 {
     static unsigned const byId[] = {0xA15591B9, 0xC36CA448, 0x37C26950, 0xCDF4ACC5, 0xADA12D80,
                                     0x9071C701, 0x92EA1040, 0xD249D299, 0x29B3A099};
-    StringId const id = ColorName(h, s, v);
     for (unsigned const number : byId)
         if (static_cast<unsigned>(id) == number) {
             char text[16];
@@ -60,6 +24,55 @@ std::string NameOrId(float h, float s, float v)
             return text;
         }
     return CoreData::LookupTStrExported(id).toStdString();
+}
+
+std::string NameOrId(float h, float s, float v)
+{
+    return NameOrId(ColorName(h, s, v));
+}
+
+TEST(ColorName, EveryCellOfTheTableHasItsText)
+{
+    static char const * const expected[11][5] = {
+        {"Gray", "Very Light Gray", "A15591B9", "Dark Gray", "Very Dark Gray"},
+        {"Red", "C36CA448", "Pink", "Dark Red", "Brown"},
+        {"Orange", "Beige", "Light Orange", "Brown", "37C26950"},
+        {"Yellow", "Very Light Yellow", "Light Yellow", "Olive Green", "Dark Gray"},
+        {"Yellow-Green", "Very Light Yellow-Green", "Light Yellow-Green", "Dark Yellow-Green", "Dark Gray"},
+        {"Green", "Very Light Green", "Light Green", "CDF4ACC5", "Very Dark Green"},
+        {"Teal", "Very Light Teal", "Light Teal", "Dark Teal", "Very Dark Teal"},
+        {"ADA12D80", "Very Light Blue", "9071C701", "Dark Blue", "Very Dark Blue"},
+        {"92EA1040", "Very Light Purple", "Light Purple", "Dark Purple", "Very Dark Purple"},
+        {"Pink", "Very Light Pink", "D249D299", "Dark Pink", "Very Dark Pink"},
+        {"Brown", "Very Light Brown", "Light Brown", "29B3A099", "Very Dark Brown"},
+    };
+    for (unsigned row = 0; row < 11; ++row)
+        for (unsigned shade = 0; shade < 5; ++shade)
+            EXPECT_EQ(NameOrId(CoreData::detail::ColorNameOfCell(row, shade)), expected[row][shade])
+                << row << ' ' << shade;
+}
+
+// The rows that hang on the hue alone, with a colour for each shade that leaves room around every bound.
+TEST(ColorName, EveryShadeOfARowIsReached)
+{
+    static struct
+    {
+        unsigned row;
+        float hue;
+        float adjustment;  // what the colour's saturation is above the one that the shade is chosen by
+    } const rows[] = {
+        {1, 0.98F, 0}, {4, 0.20F, 0},      {5, 0.30F, 0},      {6, 0.45F, 0.09F},
+        {7, 0.60F, 0}, {8, 0.75F, -0.06F}, {9, 0.91F, -0.08F},
+    };
+    static struct
+    {
+        float saturation, value;
+    } const shades[] = {{0.8F, 0.75F}, {0.2F, 0.95F}, {0.4F, 0.75F}, {0.9F, 0.3F}, {0.9F, 0.18F}};
+    for (auto const & row : rows)
+        for (unsigned shade = 0; shade < 5; ++shade)
+            EXPECT_EQ(ColorName(row.hue, shades[shade].saturation + row.adjustment, shades[shade].value),
+                      CoreData::detail::ColorNameOfCell(row.row, shade))
+                << row.hue << ' ' << shade;
 }
 
 TEST(ColorName, RowsThatHangOnTheValue)
@@ -181,7 +194,6 @@ TEST(ColorName, WhiteAndBlackComeFirst)
     EXPECT_EQ(NameOrId(0.3F, 1.0F, 0.151F), "Very Dark Green");
 }
 
-// Cells that no colour of eight-bit channels reaches are named all the same.
 TEST(ColorName, EveryCellThatCanBeReachedIsNoEmptyText)
 {
     for (int h = 0; h <= 100; ++h)

@@ -18,6 +18,7 @@
 
 #include "main/core/ResourceFiles.h"
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/ResourceBuilder.h"
 #include "velcoredata/core/LanguageUtils.h"
 #include "velcoredata/core/TLocale.h"

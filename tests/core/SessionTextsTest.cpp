@@ -19,6 +19,7 @@
 #include "main/core/TableCacheInstance.h"
 #include "tests/core/StringTableRows.h"
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/ResourceBuilder.h"
 #include "velcoredata/core/LocalStrings.h"
 #include "velcoredata/core/TLocale.h"

@@ -12,6 +12,7 @@
 
 #include "main/core/TableCacheInstance.h"
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/ResourceBuilder.h"
 #include "velcoredata/core/ResourceRegistrationCache.h"
 

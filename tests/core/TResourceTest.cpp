@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/ResourceBuilder.h"
 #include "velcoredata/core/ResourceRegistrationCache.h"
 

@@ -33,7 +33,7 @@ TEST(PrintableString, EscapesWhatIsNotPrintableAscii)
 TEST(PrintableString, AnyTextBecomesPrintableAsciiInQuotes)
 {
     test_support::RandomText random(51);
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < 10'000; ++i) {
         std::string const out = toPrintableString(TString::fromStdU16String(random.Any(40)));
         ASSERT_GE(out.size(), 2u);
         ASSERT_EQ(out.front(), '"');

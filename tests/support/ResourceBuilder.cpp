@@ -109,15 +109,4 @@ std::string CompiledTranslation(std::vector<TranslatedText> const & texts)
     return ReadFile(folder.filePath(QStringLiteral("made")));
 }
 
-void InFreshProcess(std::function<void()> const & scenario)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(
-        {
-            scenario();
-            std::exit(testing::Test::HasFailure() ? 1 : 0);
-        },
-        testing::ExitedWithCode(0), "");
-}
-
 }  // namespace test_support

@@ -4,7 +4,6 @@
 // VELCOREDATA_RCC and VELCOREDATA_LRELEASE.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -52,8 +51,5 @@ struct TranslatedText
 
 // The bytes of compiled translations (.qm). The texts hold no characters that XML escapes.
 std::string CompiledTranslation(std::vector<TranslatedText> const & texts);
-
-// Runs a scenario in a process of its own, in which no cache was asked for anything yet. Failures there fail this test.
-void InFreshProcess(std::function<void()> const & scenario);
 
 }  // namespace test_support

@@ -1,5 +1,6 @@
 #include "velcoredata/utility/FeatureCatalogue.h"
 
+#include <barrier>
 #include <limits>
 #include <string>
 #include <thread>
@@ -8,7 +9,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/AllocationCounter.h"
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 
 namespace {
 
@@ -90,30 +93,58 @@ TEST(FeatureCatalogue, AnUnknownIdIsAnAssertionInEveryColumn)
     }
 }
 
-TEST(FeatureCatalogue, EightThreadsSeeTheSameObjects)
+TEST(FeatureCatalogueDeathTest, RowsAreBuiltAtTheFirstCallAndNeverAgain)
 {
-    struct Seen
-    {
-        void const * all;
-        void const * enabled;
-        void const * lookup;
-        void const * name;
-    };
-    std::vector<Seen> seen(8);
-    std::vector<std::thread> threads;
-    for (Seen & mine : seen)
-        threads.emplace_back([&mine] {
-            mine = {&GetAllFeatureFlagIds(), &GetDefaultEnabledFeatureIds(), &GetDefaultFeatureIdLookup(),
-                    &GetFeatureFlagName(FeatureFlagId::DummyFeature4)};
-        });
-    for (std::thread & thread : threads)
-        thread.join();
-    for (Seen const & other : seen) {
-        EXPECT_EQ(other.all, seen[0].all);
-        EXPECT_EQ(other.enabled, seen[0].enabled);
-        EXPECT_EQ(other.lookup, seen[0].lookup);
-        EXPECT_EQ(other.name, seen[0].name);
-    }
+    test_support::InFreshProcess([] {
+        AllocationCounter allocations;
+        GetFeatureFlagName(FeatureFlagId::DummyFeature1);
+        EXPECT_GT(allocations.Count(), 5u);  // the vector, and several texts a row
+        allocations.Reset();
+        for (ColumnsOfFlag const & flag : known)
+            GetFeatureFlagName(flag.id);
+        EXPECT_EQ(allocations.Count(), 0u);
+        GetAllFeatureFlagIds();
+        GetDefaultEnabledFeatureIds();
+        GetDefaultFeatureIdLookup();
+        allocations.Reset();
+        GetAllFeatureFlagIds();
+        GetDefaultEnabledFeatureIds();
+        GetDefaultFeatureIdLookup();
+        EXPECT_EQ(allocations.Count(), 0u);
+    });
+}
+
+TEST(FeatureCatalogueDeathTest, ThreadsMayBeTheFirstToAskAllAtOnce)
+{
+    test_support::InFreshProcess([] {
+        struct Seen
+        {
+            void const * all;
+            void const * enabled;
+            void const * lookup;
+            void const * name;
+        };
+        std::barrier start(8);
+        std::vector<Seen> seen(8);
+        std::vector<std::thread> threads;
+        for (Seen & mine : seen)
+            threads.emplace_back([&start, &mine] {
+                start.arrive_and_wait();
+                mine.lookup = &GetDefaultFeatureIdLookup();
+                mine.all = &GetAllFeatureFlagIds();
+                mine.enabled = &GetDefaultEnabledFeatureIds();
+                mine.name = &GetFeatureFlagName(FeatureFlagId::DummyFeature4);
+            });
+        for (std::thread & thread : threads)
+            thread.join();
+        for (Seen const & other : seen) {
+            EXPECT_EQ(other.all, seen[0].all);
+            EXPECT_EQ(other.enabled, seen[0].enabled);
+            EXPECT_EQ(other.lookup, seen[0].lookup);
+            EXPECT_EQ(other.name, seen[0].name);
+        }
+        EXPECT_EQ(GetAllFeatureFlagIds().size(), 5u);
+    });
 }
 
 }  // namespace

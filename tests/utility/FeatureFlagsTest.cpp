@@ -1,5 +1,6 @@
 #include "velcoredata/utility/FeatureFlags.h"
 
+#include <barrier>
 #include <limits>
 #include <memory>
 #include <random>
@@ -11,8 +12,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/AllocationCounter.h"
 #include "tests/support/ErrorMatchers.h"
 #include "tests/support/FeatureFlagsScope.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/RecordingLogger.h"
 #include "velcoredata/utility/FeatureCatalogue.h"
 
@@ -276,6 +279,59 @@ TEST(FeatureFlags, ManyThreadsMayReadTheObjectOfTheProcess)
         });
     for (std::thread & thread : threads)
         thread.join();
+}
+
+TEST(FeatureFlags, AskingAllocatesNothing)
+{
+    auto const ask = [] { return FeatureFlags::IsOn(dummy3) && !FeatureFlags::IsOn(dummy1); };
+    ASSERT_TRUE(ask());
+    {
+        AllocationCounter const allocations;
+        EXPECT_TRUE(ask());
+        EXPECT_EQ(allocations.Count(), 0u);
+    }
+    ScopedSession const session;
+    CoreThreadContext::SetSessionFeatureFlags(std::make_unique<FeatureFlags>());
+    AllocationCounter const allocations;
+    EXPECT_TRUE(ask());
+    EXPECT_EQ(allocations.Count(), 0u);
+}
+
+TEST(FeatureFlagsDeathTest, ThreadsMayBeTheFirstToAskAllAtOnce)
+{
+    test_support::InFreshProcess([] {
+        std::barrier start(8);
+        std::vector<FeatureFlags *> seen(8);
+        std::vector<std::thread> threads;
+        for (FeatureFlags *& mine : seen)
+            threads.emplace_back([&start, &mine] {
+                start.arrive_and_wait();
+                EXPECT_TRUE(FeatureFlags::IsOn(dummy3));
+                EXPECT_FALSE(FeatureFlags::IsOn(dummy1));
+                mine = &FeatureFlags::GetMutable();
+            });
+        for (std::thread & thread : threads)
+            thread.join();
+        for (FeatureFlags * const other : seen)
+            EXPECT_EQ(other, seen[0]);
+        EXPECT_THAT(FeatureFlags::GetEnabled(), UnorderedElementsAre(dummy3, dummy4));
+    });
+}
+
+// Code that runs while the process ends may still ask.
+TEST(FeatureFlagsDeathTest, TheObjectOfTheProcessOutlivesItsUsers)
+{
+    test_support::InFreshProcess([] {
+        static struct AskedAtExit
+        {
+            ~AskedAtExit()
+            {
+                if (!FeatureFlags::IsOn(dummy1) || GetFeatureFlagName(dummy1) != u"DummyFeature1")
+                    std::_Exit(2);
+            }
+        } const asked;
+        FeatureFlags::GetMutable().Enable(dummy1);
+    });
 }
 
 // Sequences of operations against a plain set.

@@ -1,6 +1,8 @@
 #include "velcoredata/utility/FeatureIdLookup.h"
 
 #include <cctype>
+#include <memory>
+#include <set>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -22,11 +24,25 @@ TEST(FeatureIdLookup, FindsNamesWhateverTheirCase)
         char16_t const * name;
         unsigned id;
     } const rows[] = {
-        {u"Straße", 1}, {u"STRASSE", 1}, {u"strasse", 1}, {u"STRAẞE", 1},          {u"Strase", 0},
-        {u"kiosk", 2},  {u"KIOSK", 2},   {u"kIoSk", 2},   {u"\u212Aio\u017Fk", 2},  // Kelvin sign and long s fold to k
-                                                                                    // and s
-        {u"KİOSK", 0},  {u"kıosk", 0},   {u"KIOSK ", 0},  {u" KIOSK", 0},          {u"", 3},
-        {u" ", 0},      {u"σας", 4},     {u"σασ", 4},     {u"\xD800", 0},
+        {u"Straße", 1},
+        {u"STRASSE", 1},
+        {u"strasse", 1},
+        {u"STRAẞE", 1},
+        {u"Strase", 0},
+        {u"kiosk", 2},
+        {u"KIOSK", 2},
+        {u"kIoSk", 2},
+        {u"\u212Aio\u017Fk", 2},  // Kelvin sign and long s fold to k
+                                  // and s
+        {u"KİOSK", 0},
+        {u"kıosk", 0},
+        {u"KIOSK ", 0},
+        {u" KIOSK", 0},
+        {u"", 3},
+        {u" ", 0},
+        {u"σας", 4},
+        {u"σασ", 4},
+        {u"\xD800", 0},
     };
     for (auto const & row : rows)
         EXPECT_EQ(static_cast<unsigned>(lookup.GetId(row.name)), row.id) << TString(row.name).toStdString();
@@ -83,6 +99,13 @@ TEST(FeatureIdLookupLaws, NamesOfTheCatalogueAreFoundInAnyMixOfCases)
 {
     test_support::RandomText random(46);
     auto const & ids = GetAllFeatureFlagIds();
+    std::set<FeatureFlagId> unique(ids.begin(), ids.end());
+    EXPECT_EQ(unique.size(), ids.size());
+    EXPECT_EQ(unique.count(FeatureFlagId()), 0u);
+    std::set<TString> folded;
+    for (FeatureFlagId const id : ids)
+        folded.insert(GetDefaultFeatureIdLookup().StrToLookupCase(GetFeatureFlagName(id)));
+    EXPECT_EQ(folded.size(), ids.size());
     for (int i = 0; i < 10'000; ++i) {
         FeatureFlagId const id = ids[random.Below(ids.size())];
         TString name = GetFeatureFlagName(id);

@@ -8,7 +8,6 @@
 #include <set>
 #include <sstream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -101,6 +100,23 @@ TEST(FeatureInfo, EveryColumnOfEveryRowIsFoundByItsId)
         EXPECT_EQ(info.name.toStdString(), line[Name]);
         EXPECT_EQ(info.description.toStdString(), line[Description]);
     }
+}
+
+TEST(FeatureInfo, FieldsStandInTheOrderOfTheColumns)
+{
+    auto const & [id, maturity, enabledByDefault, team, scrumAlias, tfsId, removalDate, toggleRequirement, name,
+                  description] = Infos()[0];
+    FeatureInfo const & info = Infos()[0];
+    EXPECT_EQ(&id, &info.id);
+    EXPECT_EQ(&maturity, &info.maturity);
+    EXPECT_EQ(&enabledByDefault, &info.enabledByDefault);
+    EXPECT_EQ(&team, &info.team);
+    EXPECT_EQ(&scrumAlias, &info.scrumAlias);
+    EXPECT_EQ(&tfsId, &info.tfsId);
+    EXPECT_EQ(&removalDate, &info.removalDate);
+    EXPECT_EQ(&toggleRequirement, &info.toggleRequirement);
+    EXPECT_EQ(&name, &info.name);
+    EXPECT_EQ(&description, &info.description);
 }
 
 TEST(FeatureInfo, TheSearchStartsAtTheFirstRow)

@@ -17,11 +17,14 @@ using test_support::FeatureFlagsScope;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+// The destructor is the only virtual operation: a table pointer and the two lists.
 static_assert(std::has_virtual_destructor_v<FeatureOverrides>);
+static_assert(sizeof(FeatureOverrides) == sizeof(void *) + 2 * sizeof(std::vector<FeatureFlagId>));
 
 TEST(FeatureOverrides, AreEmptyAtFirst)
 {
     FeatureOverrides const overrides;
+    EXPECT_LT(&overrides.enabledOverrides, &overrides.disabledOverrides);
     EXPECT_THAT(overrides.enabledOverrides, IsEmpty());
     EXPECT_THAT(overrides.disabledOverrides, IsEmpty());
 }
