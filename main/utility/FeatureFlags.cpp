@@ -17,6 +17,25 @@ TString const & SessionKey()
     return *s_key;
 }
 
+[[gnu::always_inline]] inline FeatureFlags & OfProcess()
+{
+    static detail::NoDestructor<FeatureFlags> s_flags;
+    return *s_flags;
+}
+
+[[gnu::noinline]] FeatureFlags & OfSession()
+{
+    std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericUnsynchronizedObject(SessionKey());
+    auto * const flags = boost::any_cast<FeatureFlags>(object.get());
+    return flags == nullptr ? OfProcess() : *flags;
+}
+
+// Without a session this is what a plain set costs.
+inline FeatureFlags & Current()
+{
+    return CoreThreadContext::InSession() ? OfSession() : OfProcess();
+}
+
 }  // namespace
 
 FeatureFlags::FeatureFlags() : m_enabled(GetDefaultEnabledFeatureIds().begin(), GetDefaultEnabledFeatureIds().end()) {}
@@ -49,7 +68,7 @@ void FeatureFlags::Clear()
 
 bool FeatureFlags::IsOn(FeatureFlagId id)
 {
-    return Get().m_enabled.count(id) != 0;
+    return Current().m_enabled.count(id) != 0;
 }
 
 std::unordered_set<FeatureFlagId> FeatureFlags::GetEnabled()
@@ -59,16 +78,12 @@ std::unordered_set<FeatureFlagId> FeatureFlags::GetEnabled()
 
 FeatureFlags & FeatureFlags::GetMutable()
 {
-    std::shared_ptr<boost::any> const object = CoreThreadContext::GetGenericUnsynchronizedObject(SessionKey());
-    if (auto * const flags = boost::any_cast<FeatureFlags>(object.get()))
-        return *flags;
-    static detail::NoDestructor<FeatureFlags> s_flags;
-    return *s_flags;
+    return Current();
 }
 
 FeatureFlags const & FeatureFlags::Get()
 {
-    return GetMutable();
+    return Current();
 }
 
 void CoreThreadContext::SetSessionFeatureFlags(std::unique_ptr<FeatureFlags> flags)

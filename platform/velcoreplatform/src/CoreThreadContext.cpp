@@ -25,11 +25,9 @@ struct detail::SessionStore
 
 namespace {
 
-thread_local Session * t_current = nullptr;
-
 std::function<bool()> & SessionTest()
 {
-    static detail::NoDestructor<std::function<bool()>> s_test([] { return t_current != nullptr; });
+    static detail::NoDestructor<std::function<bool()>> s_test([] { return CoreThreadContext::InSession(); });
     return *s_test;
 }
 
@@ -46,9 +44,11 @@ void WarnOutsideSession(TString const & key)
 
 }  // namespace
 
+constinit thread_local Session * detail::t_session = nullptr;
+
 detail::SessionStore * detail::SessionStore::OfThisThread() noexcept
 {
-    return t_current == nullptr ? nullptr : t_current->m_store.get();
+    return t_session == nullptr ? nullptr : t_session->m_store.get();
 }
 
 std::function<bool()> & CoreThreadContext::HasSessionId = SessionTest();
@@ -95,12 +95,13 @@ Session::~Session() = default;
 
 ScopedSession::ScopedSession() : ScopedSession(std::make_shared<Session>()) {}
 
-ScopedSession::ScopedSession(std::shared_ptr<Session> session) : m_session(std::move(session)), m_before(t_current)
+ScopedSession::ScopedSession(std::shared_ptr<Session> session)
+    : m_session(std::move(session)), m_before(detail::t_session)
 {
-    t_current = m_session.get();
+    detail::t_session = m_session.get();
 }
 
 ScopedSession::~ScopedSession()
 {
-    t_current = m_before;
+    detail::t_session = m_before;
 }

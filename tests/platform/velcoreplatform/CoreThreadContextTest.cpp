@@ -39,6 +39,22 @@ TEST(CoreThreadContext, HasNoObjectsOutsideASession)
     EXPECT_EQ(CoreThreadContext::GetGenericUnsynchronizedObject(u"a"), nullptr);
 }
 
+TEST(CoreThreadContext, InSessionTellsIfTheThreadHasObjects)
+{
+    EXPECT_FALSE(CoreThreadContext::InSession());
+    ScopedSession const session;
+    EXPECT_TRUE(CoreThreadContext::InSession());
+    std::thread([] { EXPECT_FALSE(CoreThreadContext::InSession()); }).join();
+    {
+        ScopedSession const outside(nullptr);
+        EXPECT_FALSE(CoreThreadContext::InSession());
+    }
+    // A host's own test of sessions does not change where the objects are.
+    RestoreSessionTest const restore;
+    CoreThreadContext::HasSessionId = [] { return false; };
+    EXPECT_TRUE(CoreThreadContext::InSession());
+}
+
 TEST(CoreThreadContext, SettingOutsideASessionWarnsAndKeepsNothing)
 {
     test_support::RecordingLogger const logger;

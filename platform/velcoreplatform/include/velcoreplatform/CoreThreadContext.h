@@ -11,8 +11,25 @@
 #include "velcoreplatform/Export.h"
 #include "velcoreplatform/TString.h"
 
+class Session;
+
+namespace detail {
+
+struct SessionStore;
+
+// The session of the calling thread, or null. Initial-exec: read without a call.
+[[gnu::tls_model("initial-exec")]] VELCOREPLATFORM_API extern constinit thread_local Session * t_session;
+
+}  // namespace detail
+
 // A namespace, so that a higher layer can add the accessors of its own objects.
 namespace CoreThreadContext {
+
+// Whether the objects below can be there at all. In line, for hot paths.
+inline bool InSession() noexcept
+{
+    return ::detail::t_session != nullptr;
+}
 
 // The named object of the current session, null if none or outside a session. Any thread; synchronises by itself.
 VELCOREPLATFORM_API std::shared_ptr<boost::any> GetGenericObject(TString const & key);
@@ -28,10 +45,6 @@ VELCOREPLATFORM_API void SetGenericUnsynchronizedObject(TString const & key, std
 VELCOREPLATFORM_API extern std::function<bool()> & HasSessionId;
 
 }  // namespace CoreThreadContext
-
-namespace detail {
-struct SessionStore;
-}
 
 // The objects of one session. Made by a host, entered on any number of threads.
 class VELCOREPLATFORM_API Session
