@@ -78,6 +78,7 @@ TEST(LanguageCatalogue, AnEnabledRowIsASupportedLanguage)
         {u"sv_SE", u"S&venska", u"Svenska", u"1", u"EU"},
         {u"de_LU", u"&Deutsch (Luxemburg)", u"Deutsch L", u"2", u"EU"},
         {u"nl_NL", u"&Nederlands", u"Nederlands", u"0", u"EU"},
+        {u"zh_TW", u"&T", u"T", u"1", u"EU"},
     };
     LanguageCatalogue const catalogue(desktop, false);
     for (char16_t const * key : {u"sv", u"sv_SE", u"sv_SE-EU"}) {
@@ -88,8 +89,10 @@ TEST(LanguageCatalogue, AnEnabledRowIsASupportedLanguage)
     EXPECT_EQ(*catalogue.FindSupported(u"de_LU"), u"de_LU-EU");
     EXPECT_EQ(*catalogue.FindSupported(u"de_LU-EU"), u"de_LU-EU");
     EXPECT_EQ(catalogue.FindSupported(u"nl_NL"), nullptr);
+    EXPECT_EQ(*catalogue.FindSupported(u"zh_TW"), u"zh_TW-EU");  // the row's market comes before the table's
+    EXPECT_EQ(*catalogue.FindSupported(u"zh"), u"zh_CN-China");
     EXPECT_EQ(catalogue.GetClosestSupportedCode(u"sv_FI"), u"sv_SE-EU");
-    EXPECT_THAT(catalogue.GetDesktopLanguages(u"nl_NL"), ElementsAre(u"nl_NL", u"de_LU", u"sv_SE"));
+    EXPECT_THAT(catalogue.GetDesktopLanguages(u"nl_NL"), ElementsAre(u"nl_NL", u"de_LU", u"sv_SE", u"zh_TW"));
 }
 
 TEST(LanguageCatalogue, AnInstalledPseudoLocaleWithoutARowIsAFault)

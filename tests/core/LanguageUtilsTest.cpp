@@ -172,6 +172,10 @@ TEST(LanguageUtils, TheClosestSupportedCode)
         {u"zh_SG", u"zh_CN-China"},
         {u"zh_SG-EU", u"zh_CN-China"},  // the script decides before the market
         {u"zh_Hans_HK", u"zh_TW-APAC"},
+        // A code without a script meets the full codes, which are in no table of scripts either.
+        {u"zh-China", u"zh_CN-China"},
+        {u"zh-APAC", u"zh_TW-APAC"},
+        {u"zh-EU", u"en_US"},
         {u"en_ZA", u"en_US-US"},
         {u"en_AU-APAC", u"en_US-APAC"},
         {u"fr_MA", u"fr_FR-EU"},

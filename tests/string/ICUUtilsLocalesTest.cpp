@@ -29,6 +29,7 @@ TEST(ICUUtilsLocales, NamesOfDaysMonthsAndQuarters)
     EXPECT_EQ(ICUUtils::GetShortQuarterName(5, 0x409), u"");
     EXPECT_EQ(ICUUtils::GetShortQuarterName(0x409), u"Q");
     EXPECT_EQ(ICUUtils::GetShortQuarterName(0x40C), u"T");
+    EXPECT_EQ(ICUUtils::GetShortQuarterName(0x804), u"\u5B63\u5EA6");  // of "1" and two characters
 }
 
 // Names go by the narrow name of an LCID, which knows no pseudo-locale.

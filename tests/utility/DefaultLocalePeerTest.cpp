@@ -53,6 +53,7 @@ System const SYSTEMS[] = {
     {"hi_IN", 0x439, u"hi_IN", u"en_US", u"en_US-APAC", SOW_SUNDAY, u"."},
     {"zh_Hant_HK", 0xC04, u"zh_HK", u"zh_TW-APAC", u"zh_TW-APAC", SOW_SUNDAY, u"."},
     {"ja_JP", 0x411, u"ja_JP", u"ja_JP-Japan", u"ja_JP-Japan", SOW_SUNDAY, u"."},
+    {"sr_Latn_RS", 0x241A, u"sr_Latn_RS", u"en_US", u"en_US-US", SOW_MONDAY, u","},
     {"en_US_POSIX", 0x409, u"en_US", u"en_US-US", u"en_US-US", SOW_SUNDAY, u"."},
 };
 
@@ -85,6 +86,29 @@ TEST(DefaultLocale, TheDefaultsAreTheSystemsLocale)
         EXPECT_STREQ(CoreICUUtils::GetLocale(2048)->getName(), TString(system.isoString).toStdString().c_str());
         EXPECT_EQ(ICUUtils::GetDefaultLCID(), system.lcid);
         EXPECT_EQ(ICUUtils::GetStartOfWeek(), system.startOfWeek);
+    }
+    struct
+    {
+        char const * icuDefault;
+        LCID lcid;
+    } const others[] = {
+        // A language has its likely region.
+        {"de", 0x407},
+        {"zh_Hant", 0x404},
+        {"de@collation=phonebook", 0x407},
+        // A locale without a number has the first of its language.
+        {"de_BE", 0x407},
+        {"fr_DZ", 0x40C},
+        // The published name comes before ICU's number: it has none for en_AE, and Simplified Chinese for Hong Kong's.
+        {"en_AE", 0x4C09},
+        {"zh_Hans_HK", 0xC04},
+        // No number at all.
+        {"eo_001", 0x409},
+        {"tlh", 0x409},
+    };
+    for (auto const & other : others) {
+        IcuDefault const scope(other.icuDefault);
+        EXPECT_EQ(TLocale::GetUserDefaultLCID(), other.lcid) << other.icuDefault;
     }
     IcuDefault const scope("zh_Hant_HK");
     EXPECT_STREQ(CoreICUUtils::GetLocale(1024)->getName(), "zh_Hant_HK");  // ICU's own name

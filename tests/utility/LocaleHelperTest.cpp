@@ -109,6 +109,8 @@ TEST(LocaleHelper, TheWorkbooksCodeIsCopiedAndTheSessionsMadeAnew)
     EXPECT_EQ(LocaleHelper::GetSessionLanguageCode().GetFullString(), TString(u"en_US-APAC"));
     Put(u"workbook-locale", std::make_shared<TLocale>(1024u));
     EXPECT_EQ(LocaleHelper::GetSessionLCID(), 1024u);
+    Put(u"workbook-locale", std::make_shared<TLocale>(TString(u"fil_PH")));
+    EXPECT_EQ(LocaleHelper::GetSessionLanguage(), TString(u"fil"));
 }
 
 // The object's LCID is the one it was given, the code's that of its ISO string, "root".
