@@ -9,6 +9,7 @@ half of that room. Prints one line for each
   - circle of includes between rooms,
   - include of a layer that the including layer does not link,
   - private header (main/...) included by a public one,
+  - step of ARCHITECTURE.md (blocks fenced as `rooms`, lines `room > room, room`) that the includes do not bear out,
   - foreign header where it may not stand: in public headers ICU, Boost.Xpressive, Boost.Spirit, oneTBB and Qt's
     private ones; ICU anywhere but in the sources of velicu and nls; Xpressive and Spirit in more than one source.
 
@@ -131,6 +132,21 @@ def circles(edges):
     return groups
 
 
+def drawn_steps(top):
+    """(line, room, rooms it calls) for each line of the `rooms` blocks of ARCHITECTURE.md."""
+    path = os.path.join(top, "ARCHITECTURE.md")
+    if not os.path.exists(path):
+        return
+    inside = False
+    with open(path, encoding="utf-8") as text:
+        for number, line in enumerate(text, 1):
+            if line.startswith("```"):
+                inside = line.strip() == "```rooms"
+            elif inside and line.strip():
+                room, _, called = line.partition(">")
+                yield number, room.strip(), [name.strip() for name in called.split(",")]
+
+
 def check(top):
     files = list(source_files(top))
     by_path = {file.path: file for file in files}
@@ -165,6 +181,12 @@ def check(top):
     for kind, paths in sources_of.items():
         if len(paths) > 1:
             faults.append(f"{kind} belongs in one source: {', '.join(paths)}")
+    for number, room, called in drawn_steps(top):
+        for name in [room] + called:
+            if name not in edges:
+                faults.append(f"ARCHITECTURE.md:{number}: no room {name}")
+        faults += [f"ARCHITECTURE.md:{number}: {room} does not include {name}"
+                   for name in called if room in edges and name in edges and name not in edges[room]]
     for group in circles(merge_inner_halves(files, edges, file_edges)):
         faults.append("circle of includes: " + ", ".join(group))
     return faults

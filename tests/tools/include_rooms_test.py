@@ -102,5 +102,23 @@ class IncludeRooms(unittest.TestCase):
         }), [])
 
 
+    def test_the_steps_that_the_architecture_draws_are_held_to_the_includes(self):
+        files = {
+            "include/velcoredata/data/A.h": [],
+            "include/velcoredata/data/B.h": ['"velcoredata/data/A.h"'],
+            "platform/velsys/include/velsys/C.h": [],
+        }
+        with tempfile.TemporaryDirectory() as top:
+            for path, includes in files.items():
+                full = os.path.join(top, path)
+                os.makedirs(os.path.dirname(full), exist_ok=True)
+                with open(full, "w", encoding="utf-8") as file:
+                    file.write("".join(f"#include {include}\n" for include in includes))
+            with open(os.path.join(top, "ARCHITECTURE.md"), "w", encoding="utf-8") as file:
+                file.write("data/X > data/Y\n```rooms\ndata/B > data/A, velsys/C\ndata/A > data/D\n```\n")
+            self.assertEqual(check(top), ["ARCHITECTURE.md:3: data/B does not include velsys/C",
+                                          "ARCHITECTURE.md:4: no room data/D"])
+
+
 if __name__ == "__main__":
     unittest.main()
