@@ -2,6 +2,7 @@
 
 #include <QtCore/QLocale>
 
+#include "main/core/DateReading.h"
 #include "velcoredata/core/LanguageUtils.h"
 #include "velcoredata/core/LocaleFormatter.h"
 #include "velicu/ICUCalendar.h"
@@ -59,6 +60,7 @@ TLocale const & TLocale::operator=(TLocale const & other)
     m_languageCode = std::move(languageCode);
     m_calendar.reset();
     m_formatterCache.reset();
+    m_reading.reset();
     m_digits = Digits::Unasked;
     m_parseCount = 0;
     m_lastParseNative = false;
@@ -80,8 +82,11 @@ LCID TLocale::GetLCID() const
 
 void TLocale::SetFormatterCache(std::unique_ptr<LocaleFormatter const> & formatter)
 {
-    if (&formatter != &m_formatterCache)
-        m_formatterCache = std::move(formatter);
+    if (&formatter == &m_formatterCache)
+        return;
+    m_formatterCache = std::move(formatter);
+    if (m_reading != nullptr)
+        m_reading->strict = false;
 }
 
 TLocale::DateFormatCache TLocale::CloneICUDateFormatCache() const

@@ -1,5 +1,8 @@
 // The members of TLocale that read dates and times.
 
+#include "main/core/DateReading.h"
+#include "main/core/DateText.h"
+#include "main/core/DateTextPlan.h"
 #include "main/core/DateTextTry.h"
 #include "main/core/DateTimeParsingRows.h"
 #include "main/core/LocaleDatePattern.h"
@@ -14,9 +17,13 @@
 #include "velicu/ICUDateFormat.h"
 #include "velicu/ICULocale.h"
 #include "velsys/Arithmetic.h"
+#include "velsys/NoDestructor.h"
 #include "velsys/ThrowSite.h"
 
+using detail::DateText;
+using detail::DateTextPlan;
 using VelICU::ICUDateFormat;
+using Answer = DateTextPlan::Answer;
 
 namespace {
 
@@ -44,6 +51,49 @@ constexpr char16_t const * TIME_PATTERNS[] = {
 constexpr ICUDateFormat::ICUEStyle STYLES[] = {ICUDateFormat::kFull, ICUDateFormat::kLong, ICUDateFormat::kMedium,
                                                ICUDateFormat::kShort};
 
+// Fixed patterns with their plans.
+class PlannedPatterns
+{
+public:
+    template <class Patterns, class GetText>
+    PlannedPatterns(Patterns const & patterns, GetText const & getText)
+    {
+        for (auto const & pattern : patterns) {
+            m_texts.emplace_back(getText(pattern));
+            m_plans.emplace_back(m_texts.back().View());
+        }
+    }
+    std::size_t Count() const { return m_texts.size(); }
+    TString const & Text(std::size_t at) const { return m_texts[at]; }
+    DateTextPlan const & Plan(std::size_t at) const { return m_plans[at]; }
+
+private:
+    std::vector<TString> m_texts;
+    std::vector<DateTextPlan> m_plans;
+};
+
+// The rows of the table that take part in the search.
+PlannedPatterns const & SearchedRows()
+{
+    static detail::NoDestructor<PlannedPatterns> s_rows(
+        [] {
+            std::vector<char16_t const *> patterns;
+            for (detail::DateTimeParsingRow const & row : detail::DateTimeParsingRows())
+                if (row.tryAll)
+                    patterns.push_back(row.formatString);
+            return patterns;
+        }(),
+        [](char16_t const * pattern) { return pattern; });
+    return *s_rows;
+}
+
+PlannedPatterns const & TimePatterns()
+{
+    static detail::NoDestructor<PlannedPatterns> s_patterns(TIME_PATTERNS,
+                                                            [](char16_t const * pattern) { return pattern; });
+    return *s_patterns;
+}
+
 bool IsTable(LanguageCode const & languageCode)
 {
     return languageCode.GetISOString().startsWith(LanguageUtils::GetDefaultISOString());
@@ -54,13 +104,50 @@ bool IsTable(LanguageCode const & languageCode)
 DateTimeFormatCodes const TLocale::s_dateFormatCodes[4] = {DateTimeFormatCodes{4}, DateTimeFormatCodes{9},
                                                            DateTimeFormatCodes{14}, DateTimeFormatCodes{19}};
 
+detail::DateReading & TLocale::Reading() const
+{
+    if (m_reading == nullptr) {
+        m_reading = std::make_unique<detail::DateReading>();
+        m_reading->speech = detail::SpeechOf(*m_icuLocale);
+    }
+    return *m_reading;
+}
+
+DateTextPlan const * TLocale::GetPlan() const
+{
+    if (m_reading == nullptr || m_formatterCache == nullptr || !m_reading->strict ||
+        m_reading->changes != m_formatterCache->GetICUDateFormatter().GetChanges())
+        return nullptr;
+    return m_reading->plan;
+}
+
+void TLocale::ApplyPattern(TString const & pattern, DateTextPlan const * plan) const
+{
+    ICUDateFormat & format = m_formatterCache->GetICUDateFormatter();
+    detail::DateReading & reading = Reading();
+    // A caller may have changed the format since.
+    reading.strict = reading.strict && reading.changes == format.GetChanges();
+    format.applyPattern(pattern);
+    reading.changes = format.GetChanges();
+    if (plan == nullptr && reading.strict && reading.speech != detail::DateSpeech::Unknown) {
+        reading.own = DateTextPlan(pattern.View());
+        plan = &reading.own;
+    }
+    reading.plan = plan;
+}
+
 void TLocale::PopulateFormatterAndCalendar(char16_t const * fmt) const
 {
     if (m_formatterCache == nullptr) {
         VELTRIA_ASSERT(fmt != nullptr, 0x81E70A33);
         m_formatterCache = std::make_unique<LocaleFormatter const>(TString(fmt), *m_icuLocale);
+        detail::DateReading & reading = Reading();
+        reading.strict = true;
+        reading.changes = m_formatterCache->GetICUDateFormatter().GetChanges();
+        reading.own = DateTextPlan(TString(fmt).View());
+        reading.plan = &reading.own;
     } else
-        m_formatterCache->GetICUDateFormatter().applyPattern(fmt);
+        ApplyPattern(fmt, nullptr);
     if (m_calendar != nullptr && m_parseCount < CALENDAR_LIFETIME)
         return;
     VelICU::ICUErrorCode success = VelICU::U_ZERO_ERROR;
@@ -70,22 +157,34 @@ void TLocale::PopulateFormatterAndCalendar(char16_t const * fmt) const
     m_parseCount = 0;
 }
 
-bool TLocale::Try(TString const & text, DateTimeParseOptions options, DateTime const & reference, DateTime & out) const
+bool TLocale::TryByICU(DateText const & text, DateTimeParseOptions options, DateTime const & reference,
+                       DateTime & out) const
 {
-    return detail::TryDateText(m_formatterCache->GetICUDateFormatter(), *m_calendar, text, options, reference, out);
+    return detail::TryDateText(m_formatterCache->GetICUDateFormatter(), *m_calendar, text.AsTString(), options,
+                               reference, out);
 }
 
-bool TLocale::TryPattern(char16_t const * pattern, TString const & text, DateTimeParseOptions options,
-                         DateTime const & reference, DateTime & out) const
+bool TLocale::Try(DateText const & text, DateTimeParseOptions options, DateTime const & reference, DateTime & out) const
 {
-    m_formatterCache->GetICUDateFormatter().applyPattern(pattern);
-    return Try(text, options, reference, out);
+    if (DateTextPlan const * const plan = GetPlan()) {
+        Answer const answer = plan->Read(text, m_reading->speech, options, reference, out);
+        if (answer != Answer::Unsure)
+            return answer == Answer::Fits;
+    }
+    return TryByICU(text, options, reference, out);
 }
 
-bool TLocale::TryISOShapes(TString const & text, DateTimeParseOptions options, DateTime & out) const
+bool TLocale::TryPattern(TString const & pattern, DateText const & text, DateTimeParseOptions options,
+                         DateTime & out) const
+{
+    ApplyPattern(pattern, nullptr);
+    return Try(text, options, DateTime(), out);
+}
+
+bool TLocale::TryISOShapes(DateText const & text, DateTimeParseOptions options, DateTime & out) const
 {
     for (char16_t const * const shape : ISO_SHAPES)
-        if (TryPattern(shape, text, options, DateTime(), out))
+        if (TryPattern(shape, text, options, out))
             return true;
     return false;
 }
@@ -93,13 +192,16 @@ bool TLocale::TryISOShapes(TString const & text, DateTimeParseOptions options, D
 bool TLocale::ParseDateTime(char16_t const * text, char16_t const * pattern, DateTime & out,
                             DateTimeParseOptions options) const
 {
-    TString trimmed(text);
-    trimmed.trim();
-    if (trimmed.isEmpty())
+    DateText const trimmed = DateText::Trimmed(text);
+    if (trimmed.IsEmpty())
         return false;
     AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTime", __FILE__, __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
-    PopulateFormatterAndCalendar(pattern);
+    DateTextPlan const * const plan = GetPlan();
+    // Applying a pattern that the formatter holds changes nothing.
+    if (plan == nullptr || pattern == nullptr || plan->GetPattern() != pattern || m_calendar == nullptr ||
+        m_parseCount >= CALENDAR_LIFETIME)
+        PopulateFormatterAndCalendar(pattern);
     return Try(trimmed, options, DateTime(), out);
 }
 
@@ -111,9 +213,8 @@ bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime & out, 
 bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                          DateTimeParseOptions options) const
 {
-    TString trimmed(text);
-    trimmed.trim();
-    if (trimmed.isEmpty())
+    DateText const trimmed = DateText::Trimmed(text);
+    if (trimmed.IsEmpty())
         return false;
     AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTimeTryAllFormats", __FILE__,
                                __LINE__);
@@ -134,9 +235,8 @@ bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime & out, Date
 bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                      DateTimeParseOptions options) const
 {
-    TString trimmed(text);
-    trimmed.trim();
-    if (trimmed.isEmpty())
+    DateText const trimmed = DateText::Trimmed(text);
+    if (trimmed.IsEmpty())
         return false;
     AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTryAllFormats", __FILE__, __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
@@ -150,17 +250,22 @@ bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime const & ref
 
 std::tuple<bool, DateTime> TLocale::ParseTimeTryAllFormats(TString const & text) const
 {
+    DateText const whole(text.View());
     AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseTimeTryAllFormats", __FILE__, __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
-    PopulateFormatterAndCalendar(TIME_PATTERNS[0]);
+    PlannedPatterns const & patterns = TimePatterns();
+    PopulateFormatterAndCalendar(patterns.Text(0));
     DateTime value;
-    for (char16_t const * const pattern : TIME_PATTERNS)
-        if (TryPattern(pattern, text, ParseDateAndTime, DateTime(), value))
+    for (std::size_t i = 0; i < patterns.Count(); ++i) {
+        ApplyPattern(patterns.Text(i), &patterns.Plan(i));
+        if (Try(whole, ParseDateAndTime, DateTime(), value))
             return {true, value};
+    }
     return {false, DateTime()};
 }
 
-bool TLocale::ParseDateTimeWithCachedFormatter(TString const & text, DateTime & out, DateTimeParseOptions options) const
+bool TLocale::ParseDateTimeWithCachedFormatter(DateText const & text, DateTime & out,
+                                               DateTimeParseOptions options) const
 {
     if (!m_cacheFormatter)
         return false;
@@ -172,22 +277,33 @@ bool TLocale::ParseDateTimeWithCachedFormatter(TString const & text, DateTime & 
         m_lastParseNative = false;
         return false;
     }
-    bool const read = ParseDateTimeUsingNativeAPIs(text, out, DateTime(), options, GetLCID());
+    bool const read = ParseDateTimeUsingNativeAPIs(text.AsTString(), out, DateTime(), options, GetLCID());
     m_lastParseNative = read;
     return read;
 }
 
-bool TLocale::ParseDateTimeUsingISODefaultDateTimeFormatStrings(TString const & text, DateTime const & reference,
+// Rows whose plans are sure that they fail are passed over; the formatter gets the pattern of the row that fits, or
+// that ICU is to try, or of the last.
+bool TLocale::ParseDateTimeUsingISODefaultDateTimeFormatStrings(DateText const & text, DateTime const & reference,
                                                                 DateTime & out) const
 {
     PopulateFormatterAndCalendar(LookupDateTimeParsingFormatString(DateTimeParsingFormats::DateFormat_1));
-    for (detail::DateTimeParsingRow const & row : detail::DateTimeParsingRows())
-        if (row.tryAll && TryPattern(row.formatString, text, ParseDateAndTime, reference, out))
+    PlannedPatterns const & rows = SearchedRows();
+    bool const strict = m_reading->strict;
+    for (std::size_t i = 0; i < rows.Count(); ++i) {
+        Answer const answer =
+            strict ? rows.Plan(i).Read(text, m_reading->speech, ParseDateAndTime, reference, out) : Answer::Unsure;
+        bool const isLast = i + 1 == rows.Count();
+        if (answer == Answer::Fails && !isLast)
+            continue;
+        ApplyPattern(rows.Text(i), &rows.Plan(i));
+        if (answer == Answer::Fits || (answer == Answer::Unsure && TryByICU(text, ParseDateAndTime, reference, out)))
             return true;
+    }
     return false;
 }
 
-bool TLocale::ParseInternationalDateTime(TString const & text, DateTimeParseOptions options, DateTime & out) const
+bool TLocale::ParseInternationalDateTime(DateText const & text, DateTimeParseOptions options, DateTime & out) const
 {
     TString const first = detail::GetFormatString(DateTimeFormatCodes::First, *m_languageCode);
     if (first.isEmpty())
@@ -197,9 +313,10 @@ bool TLocale::ParseInternationalDateTime(TString const & text, DateTimeParseOpti
         return true;
     for (int code = 1; code <= static_cast<int>(DateTimeFormatCodes::Last); ++code) {
         TString const pattern = detail::GetFormatString(DateTimeFormatCodes{code}, *m_languageCode);
-        if (!pattern.isEmpty() && TryPattern(pattern, text, options, DateTime(), out))
+        if (!pattern.isEmpty() && TryPattern(pattern, text, options, out))
             return true;
     }
+    Reading().strict = false;
     for (ICUDateFormat::ICUEStyle const dateStyle : STYLES) {
         for (ICUDateFormat::ICUEStyle const timeStyle : STYLES) {
             m_formatterCache = std::make_unique<LocaleFormatter const>(dateStyle, timeStyle, *m_icuLocale);
@@ -210,7 +327,7 @@ bool TLocale::ParseInternationalDateTime(TString const & text, DateTimeParseOpti
     return TryISOShapes(text, options, out);
 }
 
-bool TLocale::ParseInternationalDate(TString const & text, DateTimeParseOptions options, DateTime & out) const
+bool TLocale::ParseInternationalDate(DateText const & text, DateTimeParseOptions options, DateTime & out) const
 {
     TString const first = detail::GetFormatString(s_dateFormatCodes[0], *m_languageCode);
     if (first.isEmpty())
@@ -220,9 +337,10 @@ bool TLocale::ParseInternationalDate(TString const & text, DateTimeParseOptions 
         return true;
     for (std::size_t i = 1; i < std::size(s_dateFormatCodes); ++i) {
         TString const pattern = detail::GetFormatString(s_dateFormatCodes[i], *m_languageCode);
-        if (!pattern.isEmpty() && TryPattern(pattern, text, options, DateTime(), out))
+        if (!pattern.isEmpty() && TryPattern(pattern, text, options, out))
             return true;
     }
+    Reading().strict = false;
     for (ICUDateFormat::ICUEStyle const style : STYLES) {
         m_formatterCache = std::make_unique<LocaleFormatter const>(style, *m_icuLocale);
         if (Try(text, options, DateTime(), out))

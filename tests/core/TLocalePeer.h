@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "main/core/DateReading.h"
 #include "velcoredata/core/LocaleFormatter.h"
 #include "velcoredata/core/TLocale.h"
 #include "velicu/ICUCalendar.h"
@@ -35,6 +36,14 @@ struct TLocalePeer
     {
         return locale.m_calendar != nullptr || locale.m_formatterCache != nullptr || locale.m_parseCount != 0 ||
                locale.m_lastParseNative;
+    }
+    // From here on ICU is asked about every text.
+    static void ReadPlainly(TLocale const & locale) { locale.m_reading = std::make_unique<detail::DateReading>(); }
+    // Whether the pattern in the formatter has a plan.
+    static bool HasPlan(TLocale const & locale)
+    {
+        detail::DateTextPlan const * const plan = locale.GetPlan();
+        return plan != nullptr && plan->IsKnown();
     }
     static std::int32_t CountReadings(TLocale const & locale) { return locale.m_parseCount; }
     static void SetReadings(TLocale const & locale, std::int32_t count) { locale.m_parseCount = count; }

@@ -32,6 +32,12 @@ class ICUDateFormat;
 class ICULocale;
 }  // namespace VelICU_V2
 
+namespace detail {
+class DateText;
+class DateTextPlan;
+struct DateReading;
+}  // namespace detail
+
 /// One locale under three identities: an LCID, a language code and a locale of ICU; with it the formats for dates that
 /// were built for it, and the state of reading them. No name and no LCID is refused: one that nobody knows is a working
 /// root locale.
@@ -231,17 +237,26 @@ private:
     // Reading; all but the first are called under m_parseMutex.
     bool ParseDateTimeUsingNativeAPIs(char16_t const * text, DateTime & out, DateTime const & reference,
                                       DateTimeParseOptions options, LCID lcid) const;
-    bool ParseDateTimeWithCachedFormatter(TString const & text, DateTime & out, DateTimeParseOptions options) const;
-    bool ParseDateTimeUsingISODefaultDateTimeFormatStrings(TString const & text, DateTime const & reference,
+    bool ParseDateTimeWithCachedFormatter(detail::DateText const & text, DateTime & out,
+                                          DateTimeParseOptions options) const;
+    bool ParseDateTimeUsingISODefaultDateTimeFormatStrings(detail::DateText const & text, DateTime const & reference,
                                                            DateTime & out) const;
-    bool ParseInternationalDate(TString const & text, DateTimeParseOptions options, DateTime & out) const;
-    bool ParseInternationalDateTime(TString const & text, DateTimeParseOptions options, DateTime & out) const;
+    bool ParseInternationalDate(detail::DateText const & text, DateTimeParseOptions options, DateTime & out) const;
+    bool ParseInternationalDateTime(detail::DateText const & text, DateTimeParseOptions options, DateTime & out) const;
     void PopulateFormatterAndCalendar(char16_t const * fmt) const;
-    // One try with the formatter as it is, or with a pattern applied to it.
-    bool Try(TString const & text, DateTimeParseOptions options, DateTime const & reference, DateTime & out) const;
-    bool TryPattern(char16_t const * pattern, TString const & text, DateTimeParseOptions options,
-                    DateTime const & reference, DateTime & out) const;
-    bool TryISOShapes(TString const & text, DateTimeParseOptions options, DateTime & out) const;
+    // Applies a pattern to the formatter. The plan is that of the pattern, or null to have it made.
+    void ApplyPattern(TString const & pattern, detail::DateTextPlan const * plan) const;
+    // One try with the formatter as it is: by its plan where that is sure, else by ICU.
+    bool Try(detail::DateText const & text, DateTimeParseOptions options, DateTime const & reference,
+             DateTime & out) const;
+    bool TryByICU(detail::DateText const & text, DateTimeParseOptions options, DateTime const & reference,
+                  DateTime & out) const;
+    bool TryPattern(TString const & pattern, detail::DateText const & text, DateTimeParseOptions options,
+                    DateTime & out) const;
+    bool TryISOShapes(detail::DateText const & text, DateTimeParseOptions options, DateTime & out) const;
+    detail::DateReading & Reading() const;
+    // Of the pattern in the formatter; null if it is not known.
+    detail::DateTextPlan const * GetPlan() const;
 
     static DateTimeFormatCodes const s_dateFormatCodes[4];  // those of dates without a time
 
@@ -263,5 +278,6 @@ private:
     mutable std::atomic<bool> m_lastParseNative = false;  // the native overload writes it without the lock
     bool m_parseNative = true;
     mutable std::unique_ptr<LocaleFormatter const> m_formatterCache;
+    mutable std::unique_ptr<detail::DateReading> m_reading;  // what is known of m_formatterCache; null before a reading
     bool m_cacheFormatter = true;
 };

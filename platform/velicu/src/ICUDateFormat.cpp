@@ -209,6 +209,7 @@ void ICUDateFormat::parse(TString const & text, ICUCalendar & calendar, ICUParse
 
 void ICUDateFormat::setLenient(bool lenient) noexcept
 {
+    NoteChange();
     if (m_native->format != nullptr)
         m_native->format->setLenient(lenient);
 }
@@ -220,6 +221,7 @@ bool ICUDateFormat::isLenient() const noexcept
 
 void ICUDateFormat::applyPattern(TString const & pattern)
 {
+    NoteChange();
     if (m_native->format != nullptr)
         m_native->format->applyPattern(CopyOf(pattern));
 }
@@ -252,6 +254,7 @@ int ICUDateFormat::getFirstDayOfWeek(ICUErrorCode & status) const noexcept
 // ICU hands the calendar out as const; it is the format's own and not shared.
 void ICUDateFormat::setFirstDayOfWeek(int day) noexcept
 {
+    NoteChange();
     if (m_native->format != nullptr && day >= UCAL_SUNDAY && day <= UCAL_SATURDAY)
         const_cast<icu::Calendar *>(m_native->format->getCalendar())
             ->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(day));
@@ -259,6 +262,7 @@ void ICUDateFormat::setFirstDayOfWeek(int day) noexcept
 
 void ICUDateFormat::setMinimalDaysInFirstWeek(unsigned char days) noexcept
 {
+    NoteChange();
     if (m_native->format != nullptr)
         const_cast<icu::Calendar *>(m_native->format->getCalendar())
             ->setMinimalDaysInFirstWeek(days < 1   ? std::uint8_t(1)
@@ -289,8 +293,17 @@ std::unique_ptr<ICUSimpleDateFormat> ICUSimpleDateFormat::cloneSimple() const
     return std::make_unique<ICUSimpleDateFormat>(Wrap(CloneNative(GetNative().format)));
 }
 
+double ICUSimpleDateFormat::get2DigitYearStart(ICUErrorCode & status) const
+{
+    StatusScope scope(status);
+    if (GetNative().format == nullptr)
+        scope.Fail(::U_INVALID_STATE_ERROR);
+    return scope.Failed() ? 0.0 : GetNative().format->get2DigitYearStart(scope);
+}
+
 void ICUSimpleDateFormat::set2DigitYearStart(double milliseconds, ICUErrorCode & status)
 {
+    NoteChange();
     StatusScope scope(status);
     if (GetNative().format == nullptr)
         scope.Fail(::U_INVALID_STATE_ERROR);
@@ -300,6 +313,7 @@ void ICUSimpleDateFormat::set2DigitYearStart(double milliseconds, ICUErrorCode &
 
 void ICUSimpleDateFormat::editAmPmStrings(bool shortForm, bool lowerCase)
 {
+    NoteChange();
     if (GetNative().format == nullptr)
         return;
     icu::SimpleDateFormat & format = *GetNative().format;

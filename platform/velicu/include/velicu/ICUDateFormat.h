@@ -78,6 +78,9 @@ public:
     void applyPattern(TString const & pattern);
     TString toPattern() const;
 
+    // How often the format was changed since it was made: by each setter, and by applyPattern.
+    unsigned GetChanges() const noexcept { return m_changes; }
+
     // A copy of the format's calendar.
     std::unique_ptr<ICUCalendar> getCalendar() const;
     // Of the format's calendar. 1 = Sunday; values outside 1 to 7 are ignored.
@@ -88,8 +91,12 @@ public:
     explicit ICUDateFormat(std::unique_ptr<Native> native);
     Native & GetNative() const noexcept { return *m_native; }
 
+protected:
+    void NoteChange() noexcept { ++m_changes; }
+
 private:
     std::unique_ptr<Native> m_native;
+    unsigned m_changes = 0;
 };
 
 // A format by a pattern in ICU's letters, "yyyy-MM-dd HH:mm:ss".
@@ -106,6 +113,7 @@ public:
 
     // The first moment of the 100 years into which "yy" puts a year of two digits.
     void set2DigitYearStart(double milliseconds, ICUErrorCode & status);
+    double get2DigitYearStart(ICUErrorCode & status) const;
 
     // Edits the marks of the halves of the day, for formatting and parsing: with `shortForm` each is cut to its first
     // character, with `lowerCase` it is turned to lower case. (true, false) makes "AM" and "PM" "A" and "P".
