@@ -1,18 +1,32 @@
 #include "velcoredata/core/LocalStrings.h"
 
+#include <string_view>
+
 #include "main/core/LocalStringsTranslation.h"
 #include "main/core/StringTable.h"
 #include "velcoreplatform/CoreThreadContext.h"
 
 namespace CoreData {
 
+namespace {
+
+TString English(StringId id)
+{
+    std::string_view const english = detail::StringTableEnglish(id);
+    return TString::fromUtf8(english.data(), static_cast<int>(english.size()));
+}
+
+TString LookupInSession(StringId id)
+{
+    TString translated = detail::TranslateForSession(detail::StringTableKey(id), detail::StringTableEnglish(id).data());
+    return translated.isEmpty() ? English(id) : translated;
+}
+
+}  // namespace
+
 TString LookupTStrExported(StringId id)
 {
-    char const * const english = detail::StringTableEnglish(id);
-    if (!CoreThreadContext::HasSessionId())
-        return TString::fromUtf8(english);
-    TString translated = detail::TranslateForSession(detail::StringTableKey(id), english);
-    return translated.isEmpty() ? TString::fromUtf8(english) : translated;
+    return CoreThreadContext::HasSessionId() ? LookupInSession(id) : English(id);
 }
 
 TFormatString LookupTFormatStrExported(StringId id)

@@ -86,7 +86,8 @@ TEST(StringIds, EveryKeyHasItsKeyTextAndItsEnglishText)
 {
     for (Row const & row : AllRows()) {
         EXPECT_STREQ(CoreData::detail::StringTableKey(row.id), row.key);
-        EXPECT_STREQ(CoreData::detail::StringTableEnglish(row.id), row.english) << row.key;
+        EXPECT_EQ(CoreData::detail::StringTableEnglish(row.id), row.english) << row.key;
+        EXPECT_STREQ(CoreData::detail::StringTableEnglish(row.id).data(), row.english) << row.key;
         EXPECT_EQ(English(row.id), row.english) << row.key;
     }
 }
@@ -152,7 +153,7 @@ TEST(LookupTStrExported, GivesTheEmptyTextForANumberThatIsNoKey)
     for (std::uint32_t const number : {0u, 1u, 0x12C45CA3u, 0x12C45CA5u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
         auto const id = static_cast<StringId>(number);
         EXPECT_STREQ(CoreData::detail::StringTableKey(id), "") << number;
-        EXPECT_STREQ(CoreData::detail::StringTableEnglish(id), "") << number;
+        EXPECT_STREQ(CoreData::detail::StringTableEnglish(id).data(), "") << number;
         EXPECT_TRUE(LookupTStrExported(id).isEmpty()) << number;
         EXPECT_TRUE(TString(LookupTFormatStrExported(id)).isEmpty()) << number;
         ScopedSession const session;

@@ -141,12 +141,12 @@ enum class StringId : std::uint32_t
     return "".join(out)
 
 
-def tree(entries, value):
+def tree(entries, value, suffix=""):
     """A switch over the sparse numbers, in rising order: compilers make a balanced decision tree of it."""
     out = ["    switch (id) {\n"]
     for entry in sorted(entries, key=lambda entry: entry.number):
-        out.append("    case StringId::%s:\n        return %s;\n" % (entry.key, literal(value(entry))))
-    out.append("    }\n    return \"\";\n")
+        out.append("    case StringId::%s:\n        return %s;\n" % (entry.key, literal(value(entry)) + suffix))
+    out.append("    }\n    return \"\"%s;\n" % suffix)
     return "".join(out)
 
 
@@ -156,13 +156,17 @@ def source_text(entries, table):
 
 #include "main/core/StringTable.h"
 
+#include <string_view>
+
+using namespace std::string_view_literals;
+
 namespace CoreData::detail {
 
 char const * StringTableKey(StringId id) noexcept
 {
 %s}
 
-char const * StringTableEnglish(StringId id) noexcept
+std::string_view StringTableEnglish(StringId id) noexcept
 {
 %s}
 
@@ -172,7 +176,7 @@ char const * StringTableFile() noexcept
 }
 
 }  // namespace CoreData::detail
-""" % (table, tree(entries, lambda entry: entry.key), tree(entries, lambda entry: entry.english))
+""" % (table, tree(entries, lambda entry: entry.key), tree(entries, lambda entry: entry.english, "sv"))
 
 
 def main(arguments):

@@ -75,9 +75,12 @@ TString GeneralText(double value, int precision, bool stripPoint)
     return TString(text, Narrow(end - text));
 }
 
-// QString::fromUtf8 drops a leading U+FEFF; a text keeps every character that it has.
+// QString::fromUtf8 drops a leading U+FEFF; a text keeps every character that it has. Without one it is the same, and
+// does not make a decoder first.
 TString DecodeUtf8(QByteArrayView bytes)
 {
+    if (bytes.size() < 3 || bytes[0] != '\xEF' || bytes[1] != '\xBB' || bytes[2] != '\xBF')
+        return TString(QString::fromUtf8(bytes));
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     return TString(QString(decoder.decode(bytes)));

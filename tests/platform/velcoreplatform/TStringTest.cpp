@@ -1,11 +1,15 @@
 #include "velcoreplatform/TString.h"
 
 #include <functional>
+#include <iterator>
+#include <random>
 #include <set>
 #include <string>
 #include <thread>
 #include <unordered_set>
 #include <vector>
+
+#include <QtCore/QStringDecoder>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +44,25 @@ TEST(TStringMake, FromEveryKindOfTextWithALength)
     EXPECT_EQ(TString(TStringCore(u"text")), u"text");
     EXPECT_EQ(TString(u"a\0b", 3).length(), 3);
     EXPECT_EQ(TString(static_cast<char16_t const *>(nullptr)), u"");
+}
+
+// Texts without a leading U+FEFF take a shorter way.
+TEST(TStringMake, FromUtf8IsTheSameOnBothWays)
+{
+    static constexpr char const * kPieces[] = {
+        "a",    "\xC3\xBC", "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "\xEF\xBB\xBF", "\xEF", "\xBB",
+        "\xBF", "\xC0",     "\xED\xA0\x80", "\xF4\x90",         "\x7F",         "\xFF"};
+    std::mt19937 random(11);
+    for (int draw = 0; draw < 10'000; ++draw) {
+        std::string bytes;
+        for (auto pieces = random() % 12; pieces > 0; --pieces)
+            bytes += random() % 20 == 0 ? std::string(1, '\0') : kPieces[random() % std::size(kPieces)];
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+        QString const expected = decoder.decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+        ASSERT_EQ(TString::fromStdString(bytes).toQString(), expected) << draw;
+        ASSERT_EQ(TString::fromUtf8(bytes.data(), static_cast<int>(bytes.size())).toQString(), expected) << draw;
+    }
 }
 
 TEST(TStringMake, FromEncodedText)
