@@ -31,8 +31,10 @@ def medians(results):
             match = NAME.match(run.get("run_name", ""))
             if not match or run.get("aggregate_name") != "median":
                 continue
-            clock = "real_time" if run.get("threads", 1) > 1 or "real_time" in match["rest"] else "cpu_time"
-            rest = re.sub(r"/(?:real_time|process_time|threads:1)(?=/|$)", "", match["rest"])
+            # A time that the benchmark took itself stands under real_time too.
+            by_wall = run.get("threads", 1) > 1 or re.search("real_time|manual_time", match["rest"])
+            clock = "real_time" if by_wall else "cpu_time"
+            rest = re.sub(r"/(?:real_time|manual_time|process_time|threads:1|iterations:\d+)(?=/|$)", "", match["rest"])
             found[match["row"] + rest, match["peer"]] = run[clock] * TO_NS[run["time_unit"]]
     return found
 

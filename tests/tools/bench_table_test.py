@@ -37,6 +37,11 @@ class BenchTable(unittest.TestCase):
         self.assertEqual(self.lines({}, run("a/ours/threads:2", 1, threads=2), run("a/peer:b/threads:2", 1, threads=2)),
                          ["a/threads:2\t2.00\tb\t2.00\t1.00\t-\t-"])
 
+    def test_a_time_of_its_own_counts(self):
+        self.assertEqual(self.lines({}, run("a/ours/iterations:60/manual_time", 1),
+                                    run("a/peer:b/iterations:60/manual_time", 4)),
+                         ["a\t2.00\tb\t8.00\t0.25\t-\t-"])
+
 
 if __name__ == "__main__":
     unittest.main()
