@@ -163,27 +163,30 @@ TEST(QualifiedNameSharing, ATextBeyondTheLongestStringIsRefused)
     EXPECT_THROW(QualifiedName(std::move(doubled)).GetFullValue(), std::length_error);
 }
 
+// Texts long enough that several threads make one at the same time.
 TEST(QualifiedNameSharing, EightThreadsThatAskFirstGetOneAddress)
 {
-    constexpr int threadCount = 8;
-    constexpr int rounds = 2000;
+    constexpr std::size_t threadCount = 8;
+    constexpr std::size_t rounds = 400;
+    TString const longText(u']', 20'000);
     std::vector<QualifiedName> names;
-    for (int i = 0; i < rounds; ++i)
-        names.push_back(NameOf({TString::number(i), u"a]b"}));
+    for (std::size_t i = 0; i < rounds; ++i)
+        names.push_back(NameOf({TString::number(static_cast<unsigned long>(i)), longText}));
     std::vector<std::array<TString const *, threadCount>> addresses(rounds);
     std::vector<std::array<unsigned, threadCount>> hashes(rounds);
+    std::vector<std::array<bool, threadCount>> whole(rounds);
     std::barrier start(threadCount);
     std::vector<std::thread> threads;
     for (std::size_t t = 0; t < threadCount; ++t) {
         threads.emplace_back([&, t] {
             for (std::size_t i = 0; i < rounds; ++i) {
-                if (i % 50 == 0)
-                    start.arrive_and_wait();
                 QualifiedName const copy(names[i]);
-                hashes[i][t] = copy.Hash();
+                start.arrive_and_wait();
                 addresses[i][t] = &copy.GetFullValue();
-                if (*addresses[i][t] != u"[" + copy.GetRootValue() + u"].[a]]b]")
-                    addresses[i][t] = nullptr;
+                hashes[i][t] = copy.Hash();
+                std::u16string_view const text = addresses[i][t]->View();
+                whole[i][t] = text.size() == static_cast<std::size_t>(copy.GetRootValue().length()) + 40'005 &&
+                              text.back() == u']' && text[text.size() / 2] == u']';
             }
         });
     }
@@ -193,6 +196,7 @@ TEST(QualifiedNameSharing, EightThreadsThatAskFirstGetOneAddress)
         for (std::size_t t = 0; t < threadCount; ++t) {
             ASSERT_EQ(addresses[i][t], &names[i].GetFullValue()) << i;
             ASSERT_EQ(hashes[i][t], names[i].Hash()) << i;
+            ASSERT_TRUE(whole[i][t]) << i;
         }
     }
 }
