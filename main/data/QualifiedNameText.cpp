@@ -26,15 +26,9 @@ std::size_t LengthOfFullValue(Components const & components)
 {
     std::size_t length = 3 * components.size() - 1;
     for (TString const & component : components)
-        length += static_cast<std::size_t>(component.length());
-    auto const refuseTooLong = [&] {
-        if (length > static_cast<std::size_t>(std::numeric_limits<int>::max() - kSpareUnits))
-            throw std::length_error("the text of a qualified name is too long");
-    };
-    refuseTooLong();  // before the walk over the characters
-    for (TString const & component : components)
-        length += static_cast<std::size_t>(component.count(u']'));
-    refuseTooLong();
+        length += static_cast<std::size_t>(component.length()) + static_cast<std::size_t>(component.count(u']'));
+    if (length > static_cast<std::size_t>(std::numeric_limits<int>::max() - kSpareUnits))
+        throw std::length_error("the text of a qualified name is too long");
     return length;
 }
 

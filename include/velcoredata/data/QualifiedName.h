@@ -98,7 +98,7 @@ public:
 
     // Read. The references live as long as the name or a copy of it.
 
-    // The text form, made on the first call by one allocation. A text of more than 2^31 - 1 code units raises
+    // The text form, made on the first call by one allocation. A text of 2^31 - 16 code units or more raises
     // std::length_error.
     TString const & GetFullValue() const
     {
