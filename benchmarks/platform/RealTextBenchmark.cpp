@@ -44,7 +44,7 @@ void Ours(benchmark::State & state)
 {
     auto const & values = Values();
     std::size_t i = 0;
-    char16_t text[detail::kLongestRealText];
+    char16_t text[detail::kRealTextRoom];
     for (auto _ : state) {
         benchmark::DoNotOptimize(detail::WriteReal(text, values[i++ % kCount], 17));
         benchmark::ClobberMemory();

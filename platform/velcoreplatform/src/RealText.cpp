@@ -10,6 +10,10 @@
 
 #include <QString>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 // A real is m * 2^e. Multiplied by the power of ten that brings it between 10^(digits-1) and 10^digits it is the digits
 // and a fraction that says how to round. The power has 128 bits, so the product is exact or too low by less than one
 // part in 2^127; where that could turn the rounding, Qt's exact conversion is asked.
@@ -87,19 +91,6 @@ constexpr auto MakePowersOfTen()
 
 constexpr auto kPowersOfTen = MakePowersOfTen();
 
-// "00" to "99".
-constexpr auto MakePairs()
-{
-    std::array<char16_t, 200> pairs{};
-    for (std::size_t i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char16_t>(u'0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char16_t>(u'0' + i % 10);
-    }
-    return pairs;
-}
-
-constexpr auto kPairs = MakePairs();
-
 struct Decimal
 {
     std::uint64_t digits;  // of as many digits as were asked for
@@ -147,21 +138,19 @@ bool RoundTo(double value, int digits, Decimal & out)
     std::uint64_t const one = 1ull << shift;
     std::uint64_t integer = top >> shift;
     std::uint64_t const fraction = top & (one - 1);
-    // Whether what the product lacks could lift a fraction to `bound`, a multiple of the top word's unit.
-    auto const mayReach = [&](std::uint64_t bound) { return !exact && fraction + 1 == bound && middle == ~0ull; };
-    bool up;
-    if (integer >= kPowersOfTen[static_cast<std::size_t>(digits)]) {
-        std::uint64_t const last = integer % 10;
-        if (last == 4 && mayReach(one))
-            return false;
-        integer /= 10;
-        ++decimalExponent;
-        up = last >= 5;
-    } else {
-        if (mayReach(one >> 1))
-            return false;
-        up = fraction >= one >> 1;
-    }
+    // Either may be one digit more than asked for, which then goes into the fraction. Without branches: numbers differ
+    // in this as a coin does.
+    bool const more = integer >= kPowersOfTen[static_cast<std::size_t>(digits)];
+    std::uint64_t const tenth = integer / 10;
+    std::uint64_t const last = integer - 10 * tenth;
+    integer = more ? tenth : integer;
+    decimalExponent += more ? 1 : 0;
+    bool const up = more ? last >= 5 : fraction >= one >> 1;
+    // What the product lacks could lift it to the half.
+    std::uint64_t const bound = more ? one : one >> 1;
+    bool const mayReach = fraction + 1 == bound && middle == ~0ull && (!more || last == 4);
+    if (mayReach && !exact)
+        return false;
     integer += up ? 1 : 0;
     if (integer == kPowersOfTen[static_cast<std::size_t>(digits)]) {
         integer = kPowersOfTen[static_cast<std::size_t>(digits - 1)];
@@ -176,33 +165,27 @@ char16_t * Copy(char16_t * out, std::u16string_view text)
     return std::copy(text.begin(), text.end(), out);
 }
 
-char16_t * WriteZeros(char16_t * out, int count)
+// Eight digits as bytes, the first one lowest: halves, quarters and eighths are divided side by side.
+[[gnu::always_inline]] inline std::uint64_t EightDigits(std::uint64_t number)
 {
-    return std::fill_n(out, count, u'0');
+    std::uint64_t const halves = (number / 10000) | (number % 10000) << 32;
+    std::uint64_t const hundreds = (halves * 10486 >> 20) & 0x7F0000007Full;
+    std::uint64_t const quarters = hundreds | (halves - 100 * hundreds) << 16;
+    std::uint64_t const tens = (quarters * 103 >> 10) & 0xF000F000F000Full;
+    return tens | (quarters - 10 * tens) << 8;
 }
 
-void WritePair(char16_t * out, std::uint64_t number)
+// Eight bytes as code units.
+void WriteEight(char16_t * out, std::uint64_t digits)
 {
-    std::memcpy(out, &kPairs[2 * number], 4);
-}
-
-// Eight digits with leading zeros.
-void WriteEight(char16_t * out, std::uint64_t number)
-{
-    std::uint64_t const high = number / 10000, low = number % 10000;
-    WritePair(out, high / 100);
-    WritePair(out + 2, high % 100);
-    WritePair(out + 4, low / 100);
-    WritePair(out + 6, low % 100);
-}
-
-// 18 digits with leading zeros.
-void WriteEighteen(char16_t * out, std::uint64_t number)
-{
-    std::uint64_t const high = number / 100000000;
-    WritePair(out, high / 100000000);
-    WriteEight(out + 2, high % 100000000);
-    WriteEight(out + 10, number % 100000000);
+    digits |= 0x3030303030303030ull;
+#if defined(__SSE2__)
+    __m128i const bytes = _mm_cvtsi64_si128(static_cast<long long>(digits));
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(out), _mm_unpacklo_epi8(bytes, _mm_setzero_si128()));
+#else
+    for (int i = 0; i < 8; ++i)
+        out[i] = static_cast<char16_t>(digits >> 8 * i & 0xFF);
+#endif
 }
 
 char16_t * WriteExponent(char16_t * out, int exponent)
@@ -214,44 +197,58 @@ char16_t * WriteExponent(char16_t * out, int exponent)
         *out++ = static_cast<char16_t>(u'0' + rest / 100);
         rest %= 100;
     }
-    WritePair(out, static_cast<std::uint64_t>(rest));
-    return out + 2;
+    *out++ = static_cast<char16_t>(u'0' + rest / 10);
+    *out++ = static_cast<char16_t>(u'0' + rest % 10);
+    return out;
 }
 
-char16_t * WriteDecimal(char16_t * out, Decimal const & decimal, int digits)
+constexpr int kDigits = 17;
+
+// The digits, more than there are: a copy of fixed size is a few moves.
+void CopyDigits(char16_t * out, char16_t const * digits)
 {
-    char16_t buffer[18];
-    WriteEighteen(buffer, decimal.digits);
-    char16_t const * const first = buffer + 18 - digits;
-    int count = digits;
-    while (count > 1 && first[count - 1] == u'0')
-        --count;
-    std::u16string_view const text(first, static_cast<std::size_t>(count));
+    std::memcpy(out, digits, 2 * kDigits);
+}
+
+char16_t * WriteDecimal(char16_t * out, Decimal const & decimal, int digits, bool keepPoint)
+{
+    // All 17 of them: asked for fewer, those behind are zeros.
+    std::uint64_t const number = decimal.digits * kPowersOfTen[static_cast<std::size_t>(kDigits - digits)];
+    std::uint64_t const first = number / 10000000000000000ull;
+    std::uint64_t const high = EightDigits(number / 100000000 % 100000000), low = EightDigits(number % 100000000);
+    char16_t text[2 * kDigits];
+    text[0] = static_cast<char16_t>(u'0' + first);
+    WriteEight(text + 1, high);
+    WriteEight(text + 9, low);
+    int const lowZeros = std::countl_zero(low) / 8;
+    int const zeros = lowZeros + (lowZeros == 8 ? std::countl_zero(high) / 8 : 0);
+    int const count = kDigits - zeros;
 
     if (decimal.exponent < -4 || decimal.exponent >= digits) {
-        *out++ = text[0];
-        if (count > 1) {
-            *out++ = u'.';
-            out = Copy(out, text.substr(1));
-        }
-        return WriteExponent(out, decimal.exponent);
+        CopyDigits(out + 1, text);
+        out[0] = text[0];
+        out[1] = u'.';
+        return WriteExponent(out + (count > 1 ? count + 1 : 1), decimal.exponent);
     }
     if (decimal.exponent < 0) {
-        out = Copy(out, u"0.");
-        out = WriteZeros(out, -1 - decimal.exponent);
-        return Copy(out, text);
+        static constexpr char16_t zero[] = u"0.000";
+        std::memcpy(out, zero, sizeof zero);
+        out += 1 - decimal.exponent;
+        CopyDigits(out, text);
+        return out + count;
     }
     int const whole = decimal.exponent + 1;
+    CopyDigits(out, text);
+    out[whole] = u'.';
     if (count <= whole)
-        return WriteZeros(Copy(out, text), whole - count);
-    out = Copy(out, text.substr(0, static_cast<std::size_t>(whole)));
-    *out++ = u'.';
-    return Copy(out, text.substr(static_cast<std::size_t>(whole)));
+        return out + whole + (keepPoint ? 1 : 0);
+    CopyDigits(out + whole + 1, text + whole);
+    return out + count + 1;
 }
 
 }  // namespace
 
-char16_t * detail::WriteReal(char16_t * out, double value, int digits)
+char16_t * detail::WriteReal(char16_t * out, double value, int digits, bool keepPoint)
 {
     if (std::isnan(value))
         return Copy(out, u"nan");
@@ -261,14 +258,15 @@ char16_t * detail::WriteReal(char16_t * out, double value, int digits)
     }
     if (std::isinf(value))
         return Copy(out, u"inf");
-    if (value == 0.0) {
-        *out++ = u'0';
-        return out;
-    }
+    if (value == 0.0)
+        return Copy(out, keepPoint ? u"0." : u"0");
     Decimal decimal;
     if (RoundTo(value, digits, decimal))
-        return WriteDecimal(out, decimal, digits);
+        return WriteDecimal(out, decimal, digits, keepPoint);
     QString const text = QString::number(value, 'g', digits);
-    return Copy(out, std::u16string_view(reinterpret_cast<char16_t const *>(text.constData()),
-                                         static_cast<std::size_t>(text.size())));
+    out = Copy(out, std::u16string_view(reinterpret_cast<char16_t const *>(text.constData()),
+                                        static_cast<std::size_t>(text.size())));
+    if (keepPoint && !text.contains(u'.') && !text.contains(u'e'))
+        *out++ = u'.';
+    return out;
 }

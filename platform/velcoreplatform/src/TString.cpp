@@ -68,10 +68,8 @@ TString FormatInteger(Integer value, int fieldWidth, int base, char16_t fill)
 
 TString GeneralText(double value, int precision, bool stripPoint)
 {
-    char16_t text[detail::kLongestRealText + 1];
-    char16_t * end = detail::WriteReal(text, value, precision);
-    if (!stripPoint && std::all_of(text, end, [](char16_t c) { return c == u'-' || (c >= u'0' && c <= u'9'); }))
-        *end++ = u'.';
+    char16_t text[detail::kRealTextRoom];
+    char16_t const * const end = detail::WriteReal(text, value, precision, !stripPoint);
     return TString(text, Narrow(end - text));
 }
 

@@ -14,10 +14,10 @@
 
 namespace {
 
-std::u16string Text(double value, int digits = 17)
+std::u16string Text(double value, int digits = 17, bool keepPoint = false)
 {
-    char16_t text[detail::kLongestRealText];
-    return std::u16string(text, detail::WriteReal(text, value, digits));
+    char16_t text[detail::kRealTextRoom];
+    return std::u16string(text, detail::WriteReal(text, value, digits, keepPoint));
 }
 
 // Qt's conversion is exact and rounds halves away from zero; of zero it drops the sign.
@@ -31,8 +31,12 @@ std::u16string Plain(double value, int digits = 17)
 
 void ExpectAlike(double value, int digits = 17)
 {
-    ASSERT_EQ(Text(value, digits), Plain(value, digits))
+    std::u16string plain = Plain(value, digits);
+    ASSERT_EQ(Text(value, digits), plain)
         << std::hex << std::bit_cast<std::uint64_t>(value) << std::dec << ' ' << digits;
+    if (plain.find_first_not_of(u"-0123456789") == plain.npos)
+        plain += u'.';
+    ASSERT_EQ(Text(value, digits, true), plain) << std::hex << std::bit_cast<std::uint64_t>(value);
 }
 
 // Random draws by default; VELCOREDATA_REAL_DRAWS sets another number, 20000000 for the full proof.
