@@ -62,7 +62,7 @@ struct Format
 class Cursor
 {
 public:
-    Cursor(std::u16string_view text, std::size_t start) : m_text(text), m_position(start) {}
+    explicit Cursor(std::u16string_view text) : m_text(text) {}
 
     bool At(char16_t c) const { return m_position < m_text.size() && m_text[m_position] == c; }
 
@@ -106,15 +106,8 @@ public:
             m_position = start;
         return m_text.substr(start, m_position - start);
     }
-    // At the end, or before a line end that is the last of the text: CR LF counts as one.
-    bool AtEnd() const
-    {
-        std::u16string_view const rest = m_text.substr(m_position);
-        return rest.empty() || rest == u"\r\n" || (rest.size() == 1 && IsLineEnd(rest[0]));
-    }
 
 private:
-    static bool IsLineEnd(char16_t c) { return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029; }
     std::u16string_view Take(std::size_t count)
     {
         std::u16string_view const taken = m_text.substr(m_position, count);
@@ -123,46 +116,101 @@ private:
     }
 
     std::u16string_view m_text;
-    std::size_t m_position;
+    std::size_t m_position = 0;
 };
 
-// Whether a format stands from `start` to the end. Each piece is taken whole or not at all: none of them, cut shorter,
-// could be followed by what comes after it, so nothing is ever tried twice.
-bool ReadAt(std::u16string_view text, std::size_t start, Format & out)
+// The pieces of the format that stands at the start of the text. Each is taken whole or not at all: none of them, cut
+// shorter, could be followed by what comes after it.
+Format ReadFormat(std::u16string_view text)
 {
-    Cursor cursor(text, start);
+    Cursor cursor(text);
+    Format out;
     out.openingSign = cursor.OneOf(u"-(");
     out.prefix = cursor.InQuotes();
     out.minusAfterPrefix = cursor.OneOf(u"-");
     out.body = cursor.At(u'#') ? cursor.Text(u"#,##0") : cursor.Text(u"0");
-    if (out.body.empty())
-        return false;
     cursor.All(u',');
     out.decimals = cursor.Decimals();
     out.units = cursor.OneOf(u"KMBG");
     out.minusAfterNumber = cursor.OneOf(u"-");
     out.suffix = cursor.InQuotes();
     out.closingSign = cursor.OneOf(u"-)");
-    return cursor.AtEnd();
+    return out;
 }
 
-// The first place from which a format reaches the end.
+// The text without the line end that may be its last character; CR LF counts as one.
+std::u16string_view WithoutLineEnd(std::u16string_view text)
+{
+    if (text.ends_with(u"\r\n")) {
+        text.remove_suffix(2);
+    } else if (!text.empty()) {
+        char16_t const c = text.back();
+        if ((c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029)
+            text.remove_suffix(1);
+    }
+    return text;
+}
+
+// Takes one of the characters off the end, or nothing.
+bool TakeLast(std::u16string_view & text, std::u16string_view characters)
+{
+    if (text.empty() || characters.find(text.back()) == characters.npos)
+        return false;
+    text.remove_suffix(1);
+    return true;
+}
+
+// Takes a text in quotes off the end; false if there is a quote without another.
+bool TakeQuoted(std::u16string_view & text)
+{
+    if (!text.ends_with(u'"'))
+        return true;
+    std::size_t const open = text.rfind(u'"', text.size() - 2);
+    if (text.size() < 2 || open == text.npos)
+        return false;
+    text = text.substr(0, open);
+    return true;
+}
+
+void TakeAll(std::u16string_view & text, char16_t c)
+{
+    while (text.ends_with(c))
+        text.remove_suffix(1);
+}
+
+// Takes the number body off the end with the commas behind it.
+bool TakeBody(std::u16string_view & text)
+{
+    TakeAll(text, u',');
+    if (!text.ends_with(u'0'))
+        return false;
+    text.remove_suffix(text.ends_with(u"#,##0") ? 5 : 1);
+    return true;
+}
+
+// The format at the end of the text, which begins as early as it can. Going backwards every optional piece is taken:
+// what stands to its left then belongs to the format too, or begins it one piece earlier.
 bool FindFormat(std::u16string_view text, Format & out)
 {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        switch (text[i]) {
-        case u'-':
-        case u'(':
-        case u'"':
-        case u'#':
-        case u'0':
-            if (ReadAt(text, i, out))
-                return true;
-            break;
-        default: break;
-        }
-    }
-    return false;
+    text = WithoutLineEnd(text);
+    std::u16string_view rest = text;
+    TakeLast(rest, u"-)");
+    if (!TakeQuoted(rest))
+        return false;
+    TakeLast(rest, u"-");
+    TakeLast(rest, u"KMBG");
+    std::u16string_view withDecimals = rest;
+    TakeAll(withDecimals, u'0');
+    // The zeros are decimals if a body stands before their point, else the last one may be the body.
+    if (withDecimals.size() < rest.size() && TakeLast(withDecimals, u".") && TakeBody(withDecimals))
+        rest = withDecimals;
+    else if (!TakeBody(rest))
+        return false;
+    TakeLast(rest, u"-");
+    TakeQuoted(rest);
+    TakeLast(rest, u"-(");
+    out = ReadFormat(text.substr(rest.size()));
+    return true;
 }
 
 using Pieces = std::array<std::u16string_view, 7>;
