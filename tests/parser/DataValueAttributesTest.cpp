@@ -122,6 +122,7 @@ TEST(DataValueAttributes, DigitsOfTheIntegerPart)
              Case{1e20, 20},
              Case{1e300, 20},
              Case{std::numeric_limits<double>::infinity(), 20},
+             Case{std::numeric_limits<double>::quiet_NaN(), 20},
              Case{std::numeric_limits<double>::denorm_min(), 1},
          })
         EXPECT_EQ(DataValueFormatter::intDigits(value), digits) << value;

@@ -70,7 +70,7 @@ public:
         switch (Below(6)) {
         case 0: return DataValue(value, static_cast<signed char>(1 + Below(18)), static_cast<signed char>(Below(9)));
         case 1:
-            return DataValue(value, static_cast<signed char>(Below(3) == 0 ? -1 : 1 + Below(18)),
+            return DataValue(value, static_cast<signed char>(Below(3) == 0 ? -1 : static_cast<int>(1 + Below(18))),
                              static_cast<signed char>(Below(2) == 0 ? -1 : static_cast<int>(Below(12)) - 4));
         default: return DataValue(value);
         }

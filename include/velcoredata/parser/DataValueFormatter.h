@@ -82,7 +82,7 @@ public:
     /// precision agrees with all. A type outside the enumeration raises XMLEnumEncodingException.
     static std::unordered_map<TString, TString> GetDataValueTypeAttributes(DataValue const & value);
 
-    /// Digits of the integer part of |value|: 1 for 0.5, 4 for 1000, 20 from 2^64 on.
+    /// Digits of the integer part of |value|: 1 for 0.5, 4 for 1000, 20 from 2^64 on and for NaN.
     static unsigned intDigits(double value);
 
     /// The marker without its type: "%null%". Normal raises the logic assertion "special != DataValueTypes::Normal",
