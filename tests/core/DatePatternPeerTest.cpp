@@ -96,6 +96,51 @@ TEST_P(DatePatternPeer, AnyPatternReadsAsIcuReadsIt)
     EXPECT_GT(read, CountOfPatterns() / 50);
 }
 
+// What an exact reading would get wrong at its edges: one code unit changed, put in or left out, at every place.
+TEST_P(DatePatternPeer, EveryCodeUnitOfATextCountsAsForIcu)
+{
+    static constexpr std::u16string_view units = u"0139/-.:, ZTaep+\u00A0\u202F\uFF11\u0661\u200F";
+    test_support::QuietLogger const quiet;
+    test_support::DateSearchPair pair(GetParam());
+    std::vector<std::u16string> patterns;
+    for (int row = 0; row < test_support::DateSearchModel::kRows; ++row)
+        patterns.emplace_back(test_support::DateSearchModel::RowAt(row).formatString);
+    for (int code : {0, 4, 9, 20, 23})
+        patterns.push_back(pair.Model().FormatString(code));
+    RandomDateText random(44, m_icuName, patterns);
+    auto const take = [&](std::u16string const & text, std::u16string const & pattern) {
+        ASSERT_EQ(pair.Take(test_support::DateSearchPair::Step::Pattern, text, pattern, DateTime(), ParseDateAndTime),
+                  "")
+            << Utf8(text) << " [" << Utf8(pattern) << ']';
+        // The same once more as the pattern tried last, in a search.
+        if (random.OneIn(40)) {
+            ASSERT_EQ(
+                pair.Take(test_support::DateSearchPair::Step::DateTime, text, pattern, DateTime(), ParseDateAndTime),
+                "")
+                << Utf8(text) << " [" << Utf8(pattern) << ']';
+        }
+    };
+    for (std::u16string const & pattern : patterns) {
+        std::u16string const text = random.Format(*MakeFormat(pattern));
+        for (std::size_t at = 0; at <= text.size(); ++at) {
+            std::u16string changed = text;
+            if (at < text.size())
+                take(changed.erase(at, 1), pattern);
+            for (std::size_t i = 0; i < 3; ++i) {
+                char16_t const unit = units[random.Below(units.size())];
+                take(std::u16string(text).insert(at, 1, unit), pattern);
+                if (at < text.size()) {
+                    changed = text;
+                    changed[at] = unit;
+                    take(changed, pattern);
+                }
+            }
+            if (HasFatalFailure())
+                return;
+        }
+    }
+}
+
 TEST_P(DatePatternPeer, AnyPatternPrintsAsIcuPrintsIt)
 {
     TLocale const locale(GetParam());
