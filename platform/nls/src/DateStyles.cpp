@@ -282,13 +282,13 @@ std::optional<DateParts> DateStyles::ReadIn(Entry const & entry, DateText const 
 
 std::optional<DateParts> DateStyles::Read(DateText const & text) const
 {
-    bool const letters =
-        std::any_of(text.gaps.begin(), text.gaps.end(), [](DateGap const & gap) { return gap.letters; });
-    if (letters && !KnowsWords(text.text))
-        return std::nullopt;
+    // Words cost most: they are looked at only where a style may match.
+    bool wordsAreKnown = false;
     for (auto const & entry : m_entries) {
         if (!MayMatch(entry->style, text))
             continue;
+        if (!wordsAreKnown && !(wordsAreKnown = KnowsWords(text.text)))
+            return std::nullopt;
         if (std::optional<DateParts> const parts = ReadIn(*entry, text))
             return parts;
     }

@@ -10,7 +10,6 @@ namespace VelNLS::detail {
 
 namespace {
 
-constexpr std::size_t kMostRuns = 6;
 constexpr std::uint32_t kLongestRun = 4;
 
 bool IsMarkOfDirection(UChar32 c)
@@ -20,7 +19,18 @@ bool IsMarkOfDirection(UChar32 c)
 
 bool IsBlank(UChar32 c)
 {
-    return c == u' ' || u_isUWhiteSpace(c);
+    return c < 0x80 ? c == u' ' || (c >= u'\t' && c <= u'\r') : u_isUWhiteSpace(c);
+}
+
+bool IsLetter(UChar32 c)
+{
+    return c < 0x80 ? (c | 0x20) >= u'a' && (c | 0x20) <= u'z' : u_isalpha(c);
+}
+
+// -1 for what is no digit.
+std::int32_t DigitValue(UChar32 c)
+{
+    return c < 0x80 ? (c >= u'0' && c <= u'9' ? c - u'0' : -1) : u_charDigitValue(c);
 }
 
 UChar32 Next(std::u16string_view text, std::size_t & at)
@@ -43,7 +53,7 @@ void AddToGap(DateGap & gap, UChar32 c)
     if (c == u' ' || c == u',')
         return;
     AppendTo(gap.text, c);
-    gap.letters = gap.letters || u_isalpha(c);
+    gap.letters = gap.letters || IsLetter(c);
 }
 
 std::u16string_view Trimmed(std::u16string_view text)
@@ -188,10 +198,10 @@ std::optional<DateText> ReadDateText(std::u16string_view text)
         UChar32 c = Next(text, at);
         if (IsMarkOfDirection(c))
             continue;
-        std::int32_t const digit = u_charDigitValue(c);
+        std::int32_t const digit = DigitValue(c);
         if (digit >= 0) {
             if (!inRun) {
-                if (result.runs.size() == kMostRuns)
+                if (result.runs.size() == kMostDigitRuns)
                     return std::nullopt;
                 result.runs.emplace_back();
                 result.gaps.emplace_back();

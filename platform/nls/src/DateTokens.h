@@ -1,6 +1,8 @@
 // A text that may be a date, and a date style, both reduced to runs of digits and what stands between them.
 #pragma once
 
+#include <boost/container/static_vector.hpp>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,16 +25,17 @@ struct DigitRun
     std::uint32_t length = 0;
 };
 
+// Longest text that is read, in code units, and most runs of digits in it.
+inline constexpr std::size_t kLongestDateText = 128;
+inline constexpr std::size_t kMostDigitRuns = 6;
+
 // A text in a common form: ASCII digits, common blanks, no marks of direction.
 struct DateText
 {
     std::u16string text;
-    std::vector<DigitRun> runs;
-    std::vector<DateGap> gaps;  // one more than runs
+    boost::container::static_vector<DigitRun, kMostDigitRuns> runs;
+    boost::container::static_vector<DateGap, kMostDigitRuns + 1> gaps;  // one more than runs
 };
-
-// Longest text that is read, in code units.
-inline constexpr std::size_t kLongestDateText = 128;
 
 // Nothing for a text that no style can match: no digit, too long, more than six runs of digits, a run of more than
 // four.
