@@ -115,7 +115,7 @@ void ColorObject::SetAlphaF(float alpha) noexcept
 void ColorObject::SetHSVA(float h, float s, float v, float a) noexcept
 {
     m_alpha = Truncated(a);
-    float const scaled = static_cast<float>(v * 255.0);
+    float const scaled = v * 255.0F;
     int const i = detail::RealToInt32(h * 6);
     float const f = h * 6 - static_cast<float>(i);
     unsigned char const p = Truncated((1 - s) * scaled);

@@ -4,17 +4,21 @@
 
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <limits>
+#include <memory>
 #include <utility>
 #include <vector>
 
 #include "tests/support/DataValueFormatterPeer.h"
 #include "tests/support/ErrorMatchers.h"
+#include "tests/support/FreshProcess.h"
 #include "tests/support/RandomAnyValue.h"
 #include "tests/support/ValueTextModel.h"
 #include "velcoredata/data/XMLEnumException.h"
 #include "velcoredata/utility/FeatureFlags.h"
+#include "velcoreplatform/CoreThreadContext.h"
 #include "velgeo/SpatialTextError.h"
 #include "velgeo/WktSerialization.h"
 
@@ -77,6 +81,11 @@ TEST(DataValueFormatter, OptionsHaveTheirDefaults)
     EXPECT_TRUE(options.escapeDelimiters && options.showTrailingZeros);
     EXPECT_FALSE(options.inheritOptionsInTuples || options.spatialAsWkt || options.spatialAsTypeName);
     EXPECT_EQ(options.realDigits, 17);
+    static_assert(offsetof(Options, numberStyle) == 0 && offsetof(Options, quoteStrings) == 4 &&
+                  offsetof(Options, delimitDates) == 5 && offsetof(Options, parenthesizeTuples) == 6 &&
+                  offsetof(Options, escapeDelimiters) == 7 && offsetof(Options, showTrailingZeros) == 8 &&
+                  offsetof(Options, inheritOptionsInTuples) == 9 && offsetof(Options, realDigits) == 12 &&
+                  offsetof(Options, spatialAsWkt) == 16 && offsetof(Options, spatialAsTypeName) == 17);
     static_assert(sizeof(DataValueFormatter::NumberStyle) == 4 && sizeof options.realDigits == 4);
     static_assert(static_cast<int>(DataValueFormatter::NumberStyle::General) == 0 &&
                   static_cast<int>(DataValueFormatter::NumberStyle::Decimal) == 1);
@@ -425,4 +434,29 @@ TEST(DataValueFormatterMarksDeathTest, AreNotWrittenWhereTheFlagComesLater)
             std::exit(good ? 0 : 1);
         },
         testing::ExitedWithCode(0), "");
+}
+
+TEST(DataValueFormatterMarksDeathTest, TheSessionOfTheFirstCallDecidesForTheProcess)
+{
+    InFreshProcess([] {
+        {
+            ScopedSession const session;
+            auto flags = std::make_unique<FeatureFlags>();
+            flags->Enable(FeatureFlagId::WriteMarksForESV);
+            CoreThreadContext::SetSessionFeatureFlags(std::move(flags));
+            EXPECT_EQ(Format(DataValue(5)), TString(u"esv-marked[5]"));
+        }
+        EXPECT_FALSE(FeatureFlags::IsOn(FeatureFlagId::WriteMarksForESV));
+        EXPECT_EQ(Format(DataValue(5)), TString(u"esv-marked[5]"));
+    });
+}
+
+TEST(DataValueFormatterMarksDeathTest, AFirstCallThatRaisesDecidesToo)
+{
+    InFreshProcess([] {
+        EXPECT_THAT([] { Format(DataValue(DataValueTypes::Normal, DataType::Table)); },
+                    ThrowsAssert("DataType::Table not expected in DataValue"));
+        FeatureFlags::GetMutable().Enable(FeatureFlagId::WriteMarksForESV);
+        EXPECT_EQ(Format(DataValue(5)), TString(u"5"));
+    });
 }
