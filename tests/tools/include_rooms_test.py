@@ -106,6 +106,9 @@ class IncludeRooms(unittest.TestCase):
         files = {
             "include/velcoredata/data/A.h": [],
             "include/velcoredata/data/B.h": ['"velcoredata/data/A.h"'],
+            "main/data/B.cpp": ['"velcoredata/data/B.h"', '"main/data/BInside.h"'],
+            "main/data/BInside.h": ['"velcoredata/data/B.h"', '"velcoredata/data/E.h"'],
+            "include/velcoredata/data/E.h": [],
             "platform/velsys/include/velsys/C.h": [],
         }
         with tempfile.TemporaryDirectory() as top:
@@ -115,7 +118,7 @@ class IncludeRooms(unittest.TestCase):
                 with open(full, "w", encoding="utf-8") as file:
                     file.write("".join(f"#include {include}\n" for include in includes))
             with open(os.path.join(top, "ARCHITECTURE.md"), "w", encoding="utf-8") as file:
-                file.write("data/X > data/Y\n```rooms\ndata/B > data/A, velsys/C\ndata/A > data/D\n```\n")
+                file.write("data/X > data/Y\n```rooms\ndata/B > data/A, data/E, velsys/C\ndata/A > data/D\n```\n")
             self.assertEqual(check(top), ["ARCHITECTURE.md:3: data/B does not include velsys/C",
                                           "ARCHITECTURE.md:4: no room data/D"])
 
