@@ -5,6 +5,8 @@
 #include <boost/any.hpp>
 
 #include <array>
+#include <atomic>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -21,7 +23,10 @@
 #include "tests/support/ErrorMatchers.h"
 #include "tests/support/FreshProcess.h"
 #include "tests/support/ResourceBuilder.h"
+#include "velcoredata/core/LanguageUtils.h"
 #include "velcoredata/core/LocalStrings.h"
+#include "velcoredata/core/ResourceRegistrationCache.h"
+#include "velcoredata/core/StringTableCache.h"
 #include "velcoredata/core/TLocale.h"
 #include "velcoredata/data/DataValue.h"
 #include "velcoreplatform/CoreThreadContext.h"
@@ -200,6 +205,43 @@ TEST(SessionTexts, ReachManyThreadsAtOnce)
         for (int const count : wrong)
             EXPECT_EQ(count, 0);
     });
+}
+
+// The caches ask each other: texts for languages, languages for archives, archives for the session's language.
+TEST(SessionTexts, FirstUsesOfAllCachesMeetWithoutWaitingForEachOther)
+{
+    for (int round = 0; round < 5; ++round) {
+        InFreshProcess([] {
+            ResourceFolder const folder;
+            folder.Pack("app/res/ga_IE/vellangres.rcc", {{"TQRC_VELSTRINGS", "x"}});
+            folder.Pack("app/res/de_DE/vellangres.rcc",
+                        {{"TQRC_VELSTRINGS", CompiledTranslation({{"IDS_YEAR", "Year", "Jahr"}})}});
+            std::function<bool()> const uses[] = {
+                [] { return TextIn(u"de_AT", StringId::IDS_AGG_YEAR) == u"Jahr"; },
+                [] { return StringTableCache::GetInstance().GetTranslator(u"de_AT") != nullptr; },
+                [] { return LanguageUtils::IsLanguageCodeSupported(u"ga_IE"); },
+                [] { return ResourceRegistrationCache::GetInstance().IsResourceLoaded(u"en_US"); },
+                [] { return LanguageUtils::GetClosestSpecialLocaleCode(u"ga_IE-US") == u"en_US-US"; },
+                [] { return TLocale::GetUserDefaultLocale().GetLCID() == 1024; },
+                [] { return TextIn(u"fr_CH", StringId::IDS_AGG_YEAR) == u"Année"; },
+                [] { return LanguageUtils::PseudoLocFeatureShouldBeEnabled(); },
+            };
+            std::atomic<int> waiting{static_cast<int>(std::size(uses))};
+            std::atomic<int> wrong{0};
+            std::vector<std::thread> threads;
+            for (auto const & use : uses) {
+                threads.emplace_back([&] {
+                    --waiting;
+                    while (waiting != 0)
+                        std::this_thread::yield();
+                    wrong += use() ? 0 : 1;
+                });
+            }
+            for (std::thread & thread : threads)
+                thread.join();
+            EXPECT_EQ(wrong, 0);
+        });
+    }
 }
 
 // An instance cannot be missing by itself: here its maker gives none.

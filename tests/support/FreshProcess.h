@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace test_support {
 
@@ -15,6 +16,7 @@ void InFreshProcess(Scenario const & scenario)
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {
+            alarm(120);  // one that hangs fails
             scenario();
             std::exit(testing::Test::HasFailure() ? 1 : 0);
         },
