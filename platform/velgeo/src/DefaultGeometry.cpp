@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "ShapesIdentity.h"
+#include "ShapesStructure.h"
+#include "velsys/ThrowSite.h"
 
 namespace velgeo {
 
@@ -56,7 +58,9 @@ DefaultGeometry::DefaultGeometry(GeometryShapes && shapes, Attributes const & at
     : m_shapes(std::move(shapes)),
       m_attributes(attributes),
       m_hash(detail::HashOfShapes(m_shapes, static_cast<std::uint32_t>(attributes.srid)))
-{}
+{
+    VELTRIA_ASSERT_TEXT(detail::FitsLists(m_shapes), "the structure fits the lists", 0x8C4E17D1);
+}
 
 DefaultGeometry::~DefaultGeometry() = default;
 

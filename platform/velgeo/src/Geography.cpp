@@ -1,8 +1,11 @@
 #include "velgeo/Geography.h"
 
+#include <type_traits>
 #include <utility>
 
 #include "ShapesIdentity.h"
+#include "ShapesStructure.h"
+#include "velsys/ThrowSite.h"
 
 namespace velgeo {
 
@@ -32,7 +35,9 @@ void Convert(ResourceVector<Source> const & from, ResourceVector<Target> & to)
 
 Geography::Geography(GeographyShapes && shapes)
     : m_shapes(std::move(shapes)), m_hash(detail::HashOfShapes(m_shapes, kHashKind))
-{}
+{
+    VELTRIA_ASSERT_TEXT(detail::FitsLists(m_shapes), "the structure fits the lists", 0x8C4E17D2);
+}
 
 Geography::~Geography() = default;
 

@@ -4,12 +4,10 @@
 #include <utility>
 
 #include "ShapesIdentity.h"
+#include "ShapesStructure.h"
 #include "velgeo/Shapes.h"
 
 namespace velgeo::detail {
-
-// How deep collections may be nested.
-constexpr int kMostNesting = 128;
 
 class ShapesBuilder
 {

@@ -32,8 +32,8 @@ std::string_view ShortestText(double value, NumberText & buffer)
     return Text(buffer, std::to_chars(buffer.data(), end, value));
 }
 
-// The degrees that read back to these radians, of all the ones with the fewest digits. Conversion rounds, so that the
-// converted number itself may be one or two units beside them.
+// The converted degrees with as few digits as read back to these radians. Conversion rounds, so that the ones that do
+// may be a unit or two beside the converted number.
 double ShortestDegrees(Radians const & angle)
 {
     double const converted = Degrees(angle).Value();

@@ -81,6 +81,14 @@ TEST(GeoJSONSerialization, ForeignMembersAreIgnored)
               "POINT (1 2)");
 }
 
+TEST(GeoJSONSerialization, AMarkInFrontIsSkippedAndOfTwoMembersTheLastCounts)
+{
+    EXPECT_EQ(Outcome("\xEF\xBB\xBF \n{\"type\": \"Point\", \"coordinates\": [1, 2]}"), "POINT (1 2)");
+    EXPECT_EQ(Outcome(R"({"type": "Point", "type": "LineString", "coordinates": [[1, 2], [3, 4]]})"),
+              "LINESTRING (1 2, 3 4)");
+    EXPECT_EQ(Outcome(R"({"type": "Point", "coordinates": [8, 9], "coordinates": [1, 2]})"), "POINT (1 2)");
+}
+
 TEST(GeoJSONSerialization, NumbersBehindThePlaceAreCheckedAndDropped)
 {
     EXPECT_EQ(Outcome(R"({"type": "Point", "coordinates": [1, 2, 300]})"), "POINT (1 2)");

@@ -21,7 +21,8 @@ public:
     /// GeometryCollection. Rings and line strings are taken as they come, without a test.
     DefaultGeometry(GeometryShapes::CoordinateList && points, GeometryShapes::RingList && lineStrings,
                     GeometryShapes::PolygonList && polygons, Attributes const & attributes);
-    /// With a structure of its own, which must fit the lists and have a shape in it.
+    /// With a structure of its own, of one shape that uses up the lists and is not nested more than 128 deep. Raises
+    /// the logic assertion "the structure fits the lists", "LogicException_LogicAssert_0x8C4E17D1", for any other.
     DefaultGeometry(GeometryShapes && shapes, Attributes const & attributes);
     ~DefaultGeometry() override;
 

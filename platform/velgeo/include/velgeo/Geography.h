@@ -16,11 +16,12 @@ public:
     /// The number of its system of reference in texts: "SRID=4326;POINT (2.35 48.85)".
     static constexpr std::int32_t kSrid = 4326;
 
-    /// The structure must fit the lists and have a shape in it.
+    /// The structure is of one shape that uses up the lists and is not nested more than 128 deep. Raises the logic
+    /// assertion "the structure fits the lists", "LogicException_LogicAssert_0x8C4E17D2", for any other.
     explicit Geography(GeographyShapes && shapes);
     ~Geography() override;
 
-    /// From degrees, x the longitude and y the latitude.
+    /// From degrees, x the longitude and y the latitude. Raises as the constructor does.
     static std::unique_ptr<Geography> FromDegrees(GeometryShapes const & shapes);
 
     ShapeType GetShapeType() const noexcept override { return m_shapes.structure.front().kind; }
