@@ -4,6 +4,9 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <system_error>
+
+#include <QtCore/QChar>
 
 #include "velsys/Arithmetic.h"
 
@@ -24,38 +27,63 @@ bool IsDigit(char16_t c) noexcept
     return c >= u'0' && c <= u'9';
 }
 
-// Whether a character shows that the text is no number: ASCII, but in no number, no word of one and no blank. What
-// stands beyond ASCII may be a blank or a minus sign.
-bool IsTelling(char16_t c) noexcept
+bool IsAsciiBlank(char16_t c) noexcept
 {
-    if (c <= u' ' || c >= 0x7F || IsDigit(c))
-        return false;
-    switch (c) {
-    case u'+':
-    case u'-':
-    case u'.':
-    case u'e':
-    case u'E':
-    case u'i':
-    case u'I':
-    case u'n':
-    case u'N':
-    case u'f':
-    case u'F':
-    case u'a':
-    case u'A': return false;
-    default: return true;
-    }
+    return c == u' ' || (c >= u'\t' && c <= u'\r');
 }
 
+// TString's readers skip blanks at both ends, that of integers ASCII's alone.
+template <class IsBlank>
+std::u16string_view Trimmed(std::u16string_view text, IsBlank isBlank) noexcept
+{
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+enum class Characters : unsigned char
+{
+    Plain,   // digits, signs, points and exponents alone
+    Odd,     // with a letter of infinity or NaN, the minus sign U+2212, U+0000 or a blank beyond ASCII
+    Telling  // with one that has no place in a number
+};
+
+constexpr auto kAsciiCharacters = [] {
+    std::array<Characters, 128> kinds{};
+    kinds.fill(Characters::Telling);
+    for (char const c : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '+', '-', '.', 'e', 'E'})
+        kinds[static_cast<unsigned char>(c)] = Characters::Plain;
+    for (char const c : {'\0', 'i', 'I', 'n', 'N', 'f', 'F', 'a', 'A'})
+        kinds[static_cast<unsigned char>(c)] = Characters::Odd;
+    return kinds;
+}();
+
+Characters CharactersOf(std::u16string_view text) noexcept
+{
+    auto kind = Characters::Plain;
+    for (char16_t const c : text) {
+        Characters const one = c < 128                               ? kAsciiCharacters[c]
+                               : QChar::isSpace(c) || c == u'\u2212' ? Characters::Odd
+                                                                     : Characters::Telling;
+        if (one == Characters::Telling)
+            return one;
+        kind = one > kind ? one : kind;
+    }
+    return kind;
+}
+
+// Of a trimmed text that is no plain number.
 NumberVerdict Refused(std::u16string_view text) noexcept
 {
-    if (text.empty())
-        return NumberVerdict::NoNumber;
-    for (char16_t const c : text)
-        if (IsTelling(c))
-            return NumberVerdict::NoNumber;
-    return NumberVerdict::Undecided;
+    return CharactersOf(text) == Characters::Odd ? NumberVerdict::Undecided : NumberVerdict::NoNumber;
+}
+
+// Of a text that was not read, or is beyond a double.
+NumberVerdict Unread(std::u16string_view text) noexcept
+{
+    return CharactersOf(text) == Characters::Telling ? NumberVerdict::NoNumber : NumberVerdict::Undecided;
 }
 
 // Four digits at once: the code units as lanes of one word, the first in the lowest.
@@ -119,7 +147,7 @@ bool ReadShort(char16_t const * at, char16_t const * end, double & value) noexce
 }
 
 // Everything else that is plain: as narrow text through std::from_chars.
-bool ReadNarrow(std::u16string_view text, double & value) noexcept
+std::errc ReadNarrow(std::u16string_view text, double & value) noexcept
 {
     char narrow[kLongest];
     unsigned seen = 0;
@@ -128,9 +156,9 @@ bool ReadNarrow(std::u16string_view text, double & value) noexcept
         narrow[i] = static_cast<char>(text[i]);
     }
     if (seen >= 0x80)
-        return false;
+        return std::errc::invalid_argument;
     auto const [end, error] = std::from_chars(narrow, narrow + text.size(), value);
-    return error == std::errc() && end == narrow + text.size();
+    return error == std::errc() && end != narrow + text.size() ? std::errc::invalid_argument : error;
 }
 
 constexpr auto kPairs = [] {
@@ -151,43 +179,42 @@ void WritePair(char16_t * out, unsigned long long pair) noexcept
 
 NumberVerdict ReadReal(std::u16string_view text, double & value) noexcept
 {
-    if (text.empty() || text.size() > kLongest)
-        return Refused(text);
-    char16_t const * at = text.data();
-    char16_t const * const end = at + text.size();
-    bool const negative = *at == u'-';
-    if (negative || *at == u'+')
-        ++at;
+    text = Trimmed(text, [](char16_t c) { return (c <= u' ' || c >= 0x80) && QChar::isSpace(c); });
+    if (text.size() > kLongest)
+        return Unread(text);
+    bool const negative = text.starts_with(u'-');
+    std::u16string_view const rest = text.substr(negative || text.starts_with(u'+') ? 1 : 0);
     // from_chars would read the words of infinity and NaN.
-    if (at == end || !(IsDigit(*at) || *at == u'.'))
+    if (rest.empty() || !(IsDigit(rest.front()) || rest.front() == u'.'))
         return Refused(text);
     double magnitude = 0.0;
-    auto const rest = text.substr(static_cast<std::size_t>(at - text.data()));
-    if (!(text.size() <= kShort && ReadShort(at, end, magnitude)) && !ReadNarrow(rest, magnitude))
-        return Refused(text);
+    if (rest.size() > kShort || !ReadShort(rest.data(), rest.data() + rest.size(), magnitude)) {
+        std::errc const error = ReadNarrow(rest, magnitude);
+        if (error != std::errc())
+            return error == std::errc::result_out_of_range ? Unread(text) : Refused(text);
+    }
     value = negative ? -magnitude : magnitude;
     return NumberVerdict::Number;
 }
 
 NumberVerdict ReadInteger(std::u16string_view text, long long & value) noexcept
 {
-    if (text.empty())
-        return NumberVerdict::NoNumber;
-    char16_t const * at = text.data();
-    char16_t const * const end = at + text.size();
-    bool const negative = *at == u'-';
-    if (negative || *at == u'+')
-        ++at;
+    text = Trimmed(text, IsAsciiBlank);
+    bool const negative = text.starts_with(u'-');
+    std::u16string_view const rest = text.substr(negative || text.starts_with(u'+') ? 1 : 0);
+    char16_t const * at = rest.data();
+    char16_t const * const end = at + rest.size();
     std::uint64_t magnitude = 0;
-    char16_t const * const first = at;
     std::size_t const digits = TakeDigits(at, end, magnitude);
     if (at != end)
         // A point or an exponent behind digits makes no integer, whatever follows.
         return digits != 0 && (*at == u'.' || *at == u'e' || *at == u'E') ? NumberVerdict::NoNumber : Refused(text);
+    if (digits == 0)
+        return NumberVerdict::NoNumber;
     // Nineteen digits fit 64 bits without a sign.
-    if (digits == 0 || (digits > 19 && *first == u'0'))
-        return NumberVerdict::Undecided;
-    if (digits > 19 || magnitude > 0x7FFFFFFFFFFFFFFFu + static_cast<std::uint64_t>(negative))
+    if (digits > 19)
+        return rest.front() == u'0' ? NumberVerdict::Undecided : NumberVerdict::NoNumber;
+    if (magnitude > 0x7FFFFFFFFFFFFFFFu + static_cast<std::uint64_t>(negative))
         return NumberVerdict::NoNumber;
     value = static_cast<long long>(negative ? WrapNeg(magnitude) : magnitude);
     return NumberVerdict::Number;

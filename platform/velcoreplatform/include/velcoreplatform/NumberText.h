@@ -21,7 +21,8 @@ enum class NumberVerdict : unsigned char
 //
 //   ReadReal(u"-1.5e3", x)    Number, x is -1500; to the nearest double
 //   ReadReal(u"12abc", x)     NoNumber
-//   ReadReal(u" 1", x)        Undecided
+//   ReadReal(u" 1 ", x)       Number: blanks of every kind are skipped at both ends
+//   ReadReal(u"inf", x)       Undecided
 VELCOREPLATFORM_API NumberVerdict ReadReal(std::u16string_view text, double & value) noexcept;
 // Base 10. A number that does not fit is NoNumber.
 VELCOREPLATFORM_API NumberVerdict ReadInteger(std::u16string_view text, long long & value) noexcept;
