@@ -275,8 +275,10 @@ TEST(StringToNumber, BadTextRaisesAndTheCastDoesNot)
 TEST(StringToNumber, AFailingCastOfTextThrowsNothingOnTheInside)
 {
     DataValueOperators const operators;
-    DataValue const values[] = {Text(u"abc"), Text(u"12abc"),    Text(u"Paris, France"), Text(u"2020-01-02 10:00"),
-                                Text(u""),    Text(u"5 apples"), Text(u"12,50")};
+    DataValue const values[] = {
+        Text(u"abc"),      Text(u"12abc"), Text(u"Paris, France"), Text(u"2020-01-02 10:00"), Text(u""),
+        Text(u"5 apples"), Text(u"12,50"), Text(u"2020-01-02"),    Text(u"\u6771\u4EAC"),     Text(u" 1 2 "),
+        Text(u"--1")};
     for (DataValue const & value : values) {
         AllocationCounter const allocations;
         DataValue const integer = operators.ExplicitCast(value, DataType::Integer);
