@@ -1,12 +1,18 @@
 #include "main/core/DateDigits.h"
 
+#include <array>
 #include <cstdint>
+#include <cstring>
+#include <string_view>
 
+#include "main/core/DateSpeech.h"
 #include "velcoredata/data/DateTime.h"
 #include "velicu/ICUDateFormat.h"
 #include "velicu/ICULocale.h"
 
 namespace {
+
+using detail::IsLetter;
 
 constexpr unsigned long long FIRST_VALUE = 1867157ULL * DateTime::s_scaling;  // 0400-01-01
 constexpr unsigned long long END_VALUE = 5373484ULL * DateTime::s_scaling;    // 10000-01-01
@@ -28,8 +34,9 @@ char16_t * Write(char16_t * out, std::uint32_t value, int width)
     return out;
 }
 
-struct Parts
+class Parts
 {
+public:
     explicit Parts(DateTime const & value)
         : civil(value.GetYearMonthDay()),
           ticks(static_cast<std::uint32_t>(value.GetRepresentation() % DateTime::s_scaling))
@@ -57,6 +64,9 @@ struct Parts
         }
     }
 
+    DateTime::YearMonthDay const & Civil() const { return civil; }
+    std::uint32_t Ticks() const { return ticks; }
+
 private:
     // Left-justified: "S" prints tenths, and beyond the third digit come zeros. The milliseconds are those of
     // DateTime::GetMilliseconds.
@@ -77,9 +87,117 @@ private:
     std::uint32_t ticks;
 };
 
-bool IsLetter(char16_t unit)
+// "00" to "99", as the code units lie in memory.
+constexpr auto PAIRS = [] {
+    std::array<char16_t, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char16_t>(u'0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char16_t>(u'0' + i % 10);
+    }
+    return pairs;
+}();
+
+void WritePair(char16_t * out, std::uint32_t value)
 {
-    return static_cast<unsigned>((unit | 0x20) - u'a') < 26;
+    std::memcpy(out, &PAIRS[2 * value], 2 * sizeof(char16_t));
+}
+
+// A pattern whose text has one length, and where its digits stand. A thread prints many values by one pattern, so that
+// it keeps the last one.
+class Form
+{
+public:
+    // Whether this is the form of the pattern; draws it if it is another one.
+    bool IsOf(char16_t const * pattern)
+    {
+        std::size_t i = 0;
+        for (; m_pattern[i] == pattern[i]; ++i)
+            if (pattern[i] == 0)
+                return m_length > 0;
+        return Draw(pattern);
+    }
+
+    TString Print(Parts const & parts) const
+    {
+        TString text(m_text.data(), m_length);
+        char16_t * const out = text.data();
+        for (int i = 0; i < m_fieldCount; ++i) {
+            Field const field = m_fields[static_cast<std::size_t>(i)];
+            char16_t * const at = out + field.place;
+            switch (field.letter) {
+            case u'y':
+                WritePair(at, static_cast<std::uint32_t>(parts.Civil().year) / 100);
+                WritePair(at + 2, static_cast<std::uint32_t>(parts.Civil().year) % 100);
+                break;
+            case u'M': WritePair(at, static_cast<std::uint32_t>(parts.Civil().month)); break;
+            case u'd': WritePair(at, static_cast<std::uint32_t>(parts.Civil().day)); break;
+            case u'H': WritePair(at, parts.Ticks() / 36000000); break;
+            case u'm': WritePair(at, parts.Ticks() / 600000 % 60); break;
+            case u's': WritePair(at, parts.Ticks() / 10000 % 60); break;
+            default: parts.Write(at, field.letter, 3);
+            }
+        }
+        return text;
+    }
+
+private:
+    struct Field
+    {
+        char16_t letter;
+        std::uint8_t place;
+    };
+
+    bool Draw(char16_t const * pattern)
+    {
+        m_length = 0;
+        m_fieldCount = 0;
+        std::size_t size = 0;
+        while (size + 1 < m_pattern.size() && (m_pattern[size] = pattern[size]) != 0)
+            ++size;
+        if (pattern[size] != 0 || size == 0) {
+            m_pattern[0] = 0;  // longer than what is kept; the empty pattern has no form
+            return false;
+        }
+        std::size_t length = 0;
+        bool inQuote = false;
+        for (std::size_t i = 0; i < size;) {
+            char16_t const unit = pattern[i++];
+            if (unit == u'\'') {
+                if (pattern[i] == u'\'')
+                    return false;
+                inQuote = !inQuote;
+            } else if (inQuote || !IsLetter(unit))
+                m_text[length++] = unit;
+            else {
+                std::size_t count = 1;
+                for (; pattern[i] == unit; ++i)
+                    ++count;
+                constexpr std::u16string_view pairs = u"MdHms";
+                std::size_t const digits = unit == u'y' ? 4 : unit == u'S' ? 3 : pairs.find(unit) == pairs.npos ? 0 : 2;
+                if (count != digits || static_cast<std::size_t>(m_fieldCount) == m_fields.size())
+                    return false;
+                m_fields[static_cast<std::size_t>(m_fieldCount++)] = {unit, static_cast<std::uint8_t>(length)};
+                length += digits;
+            }
+        }
+        m_length = static_cast<int>(length);
+        return m_length > 0;
+    }
+
+    static constexpr std::size_t ROOM = 40;
+
+    std::array<char16_t, ROOM> m_pattern{};
+    std::array<char16_t, ROOM> m_text{};  // with anything in the places of digits
+    std::array<Field, 8> m_fields{};
+    int m_fieldCount = 0;
+    int m_length = 0;  // 0: the pattern has no such form
+};
+
+// A call, so that the address is looked up once.
+[[gnu::noinline]] Form & FormOfThread()
+{
+    thread_local Form t_form;
+    return t_form;
 }
 
 }  // namespace
@@ -100,10 +218,15 @@ bool detail::FormatDateDigits(DateTime const & value, char16_t const * pattern, 
 {
     if (value.GetRepresentation() < FIRST_VALUE || value.GetRepresentation() >= END_VALUE || pattern == nullptr)
         return false;
+    Parts const parts(value);
+    Form & form = FormOfThread();
+    if (form.IsOf(pattern)) {
+        out = form.Print(parts);
+        return true;
+    }
     // A run of n letters gives n digits or up to four.
     char16_t text[4 * LONGEST_PATTERN + MOST_LETTERS];
     char16_t * end = text;
-    Parts const parts(value);
     bool inQuote = false;
     for (char16_t const * p = pattern; *p != 0;) {
         if (p - pattern >= LONGEST_PATTERN)

@@ -74,6 +74,8 @@ void detail::DateText::Judge() noexcept
         case Digit:
             if (++digits > MOST_DIGITS)
                 return;
+            if (digits == 1)
+                m_signature += ONE_NUMBER;
             break;
         case Letter:
             // An exponent, or the name of the number that is none.
@@ -85,9 +87,9 @@ void detail::DateText::Judge() noexcept
         case Minus:
             if (before != Digit && before != Letter)
                 return;
-            break;
-        case Blank:
-        case Mark: break;
+            [[fallthrough]];
+        case Mark: m_signature += SignatureOf(unit); break;
+        case Blank: break;
         }
         if (kind != Digit)
             digits = 0;

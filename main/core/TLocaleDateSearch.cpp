@@ -174,6 +174,14 @@ bool TLocale::Try(DateText const & text, DateTimeParseOptions options, DateTime 
     return TryByICU(text, options, reference, out);
 }
 
+// Before anything else is looked at: a text in the exact form of the pattern that the formatter holds.
+bool TLocale::ReadExactForm(char16_t const * text, DateTime & out, DateTimeParseOptions options) const
+{
+    DateTextPlan const * const plan = GetPlan();
+    return plan != nullptr && m_calendar != nullptr && m_reading->speech != detail::DateSpeech::Unknown &&
+           plan->ReadExactForm(text, options, out);
+}
+
 bool TLocale::TryPattern(TString const & pattern, DateText const & text, DateTimeParseOptions options,
                          DateTime & out) const
 {
@@ -192,15 +200,20 @@ bool TLocale::TryISOShapes(DateText const & text, DateTimeParseOptions options, 
 bool TLocale::ParseDateTime(char16_t const * text, char16_t const * pattern, DateTime & out,
                             DateTimeParseOptions options) const
 {
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTime", __FILE__, __LINE__);
+    DateTextPlan const * const plan = GetPlan();
+    // Applying a pattern that the formatter holds changes nothing.
+    bool const holdsPattern = plan != nullptr && pattern != nullptr && plan->GetPattern() == pattern &&
+                              m_calendar != nullptr && m_parseCount < CALENDAR_LIFETIME - 1;
+    if (holdsPattern && ReadExactForm(text, out, options)) {
+        m_parseCount = detail::WrapAdd(m_parseCount, 1);
+        return true;
+    }
     DateText const trimmed = DateText::Trimmed(text);
     if (trimmed.IsEmpty())
         return false;
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTime", __FILE__, __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
-    DateTextPlan const * const plan = GetPlan();
-    // Applying a pattern that the formatter holds changes nothing.
-    if (plan == nullptr || pattern == nullptr || plan->GetPattern() != pattern || m_calendar == nullptr ||
-        m_parseCount >= CALENDAR_LIFETIME)
+    if (!holdsPattern)
         PopulateFormatterAndCalendar(pattern);
     return Try(trimmed, options, DateTime(), out);
 }
@@ -213,11 +226,16 @@ bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime & out, 
 bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                          DateTimeParseOptions options) const
 {
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTimeTryAllFormats", __FILE__,
+                               __LINE__);
+    if (m_cacheFormatter && ReadExactForm(text, out, options)) {
+        m_parseCount = detail::WrapAdd(m_parseCount, 1);
+        m_lastParseNative = false;
+        return true;
+    }
     DateText const trimmed = DateText::Trimmed(text);
     if (trimmed.IsEmpty())
         return false;
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTimeTryAllFormats", __FILE__,
-                               __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
     if (ParseDateTimeWithCachedFormatter(trimmed, out, options))
         return true;
@@ -235,10 +253,15 @@ bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime & out, Date
 bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                      DateTimeParseOptions options) const
 {
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTryAllFormats", __FILE__, __LINE__);
+    if (m_cacheFormatter && ReadExactForm(text, out, options)) {
+        m_parseCount = detail::WrapAdd(m_parseCount, 1);
+        m_lastParseNative = false;
+        return true;
+    }
     DateText const trimmed = DateText::Trimmed(text);
     if (trimmed.IsEmpty())
         return false;
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTryAllFormats", __FILE__, __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
     if (ParseDateTimeWithCachedFormatter(trimmed, out, options))
         return true;
@@ -287,9 +310,11 @@ bool TLocale::ParseDateTimeWithCachedFormatter(DateText const & text, DateTime &
 bool TLocale::ParseDateTimeUsingISODefaultDateTimeFormatStrings(DateText const & text, DateTime const & reference,
                                                                 DateTime & out) const
 {
-    PopulateFormatterAndCalendar(LookupDateTimeParsingFormatString(DateTimeParsingFormats::DateFormat_1));
+    // Another pattern is applied below.
+    if (m_formatterCache == nullptr || m_calendar == nullptr || m_parseCount >= CALENDAR_LIFETIME)
+        PopulateFormatterAndCalendar(LookupDateTimeParsingFormatString(DateTimeParsingFormats::DateFormat_1));
     PlannedPatterns const & rows = SearchedRows();
-    bool const strict = m_reading->strict;
+    bool const strict = Reading().strict && m_reading->changes == m_formatterCache->GetICUDateFormatter().GetChanges();
     for (std::size_t i = 0; i < rows.Count(); ++i) {
         Answer const answer =
             strict ? rows.Plan(i).Read(text, m_reading->speech, ParseDateAndTime, reference, out) : Answer::Unsure;

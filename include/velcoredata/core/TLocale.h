@@ -253,6 +253,7 @@ private:
                   DateTime & out) const;
     bool TryPattern(TString const & pattern, detail::DateText const & text, DateTimeParseOptions options,
                     DateTime & out) const;
+    bool ReadExactForm(char16_t const * text, DateTime & out, DateTimeParseOptions options) const;
     bool TryISOShapes(detail::DateText const & text, DateTimeParseOptions options, DateTime & out) const;
     detail::DateReading & Reading() const;
     // Of the pattern in the formatter; null if it is not known.
