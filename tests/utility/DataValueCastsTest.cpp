@@ -11,6 +11,7 @@
 #include "tests/support/AllocationCounter.h"
 #include "tests/support/ErrorMatchers.h"
 #include "tests/support/RandomText.h"
+#include "tests/support/ThrowCounter.h"
 #include "tests/support/ValuePrinters.h"
 #include "tests/support/ValueSamples.h"
 #include "velcoredata/core/LocalStrings.h"
@@ -271,22 +272,33 @@ TEST(StringToNumber, BadTextRaisesAndTheCastDoesNot)
               TString(u"Error parsing number"));
 }
 
-// An exception allocates: a cast that allocates nothing throws none.
 TEST(StringToNumber, AFailingCastOfTextThrowsNothingOnTheInside)
 {
     DataValueOperators const operators;
+    ThrowCounter const all;
+    EXPECT_THROW(operators.StringToReal(TString(u"abc")), DataValueOperatorException);
+    ASSERT_EQ(all.Count(), 1u);  // the counter counts
+
     DataValue const values[] = {
-        Text(u"abc"),      Text(u"12abc"), Text(u"Paris, France"), Text(u"2020-01-02 10:00"), Text(u""),
-        Text(u"5 apples"), Text(u"12,50"), Text(u"2020-01-02"),    Text(u"\u6771\u4EAC"),     Text(u" 1 2 "),
-        Text(u"--1")};
-    for (DataValue const & value : values) {
+        Text(u"abc"),      Text(u"12abc"),      Text(u"Paris, France"), Text(u"half past ten"), Text(u""),
+        Text(u"5 apples"), Text(u"12,50"),      Text(u"2024-02-30"),    Text(u" 1 2 "),         Text(u"--1"),
+        Text(u"1e400"),    Text(u"infinite"),   Text(u"1e-400"),        Text(u"\u6771\u4EAC"),  Text(u"\xD800"),
+        Text(u"POINT (1"), Text(u"{\"a\": 1}"), Text(u"99/99/9999")};
+    for (DataValue const & value : values)
+        for (DataType const target : {DataType::Integer, DataType::Real, DataType::Date, DataType::DateTime,
+                                      DataType::Spatial, DataType::Boolean})
+        {
+            ThrowCounter const throws;
+            DataValue const result = operators.ExplicitCast(value, target);
+            EXPECT_EQ(throws.Count(), 0u) << testing::PrintToString(value);
+            ExpectSame(result, target == DataType::Spatial ? Null(target) : Error(target));
+        }
+    // Numbers allocate nothing either.
+    for (DataValue const & value : {values[0], values[1], values[5], values[6], values[9], values[13]}) {
         AllocationCounter const allocations;
-        DataValue const integer = operators.ExplicitCast(value, DataType::Integer);
-        DataValue const real = operators.ExplicitCast(value, DataType::Real);
-        std::size_t const count = allocations.Count();
-        EXPECT_EQ(count, 0u) << testing::PrintToString(value);
-        ExpectSame(integer, Error(DataType::Integer));
-        ExpectSame(real, Error(DataType::Real));
+        operators.ExplicitCast(value, DataType::Integer);
+        operators.ExplicitCast(value, DataType::Real);
+        EXPECT_EQ(allocations.Count(), 0u) << testing::PrintToString(value);
     }
 }
 
