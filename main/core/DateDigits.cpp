@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "main/core/DateSpeech.h"
+#include "main/core/ASCIILetter.h"
 #include "velcoredata/data/DateTime.h"
 #include "velicu/ICUDateFormat.h"
 #include "velicu/ICULocale.h"

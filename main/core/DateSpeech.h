@@ -22,12 +22,6 @@ enum class DateSpeech : std::uint8_t
 // Asks ICU.
 DateSpeech SpeechOf(VelICU_V2::ICULocale const & locale);
 
-// Of ASCII.
-constexpr bool IsLetter(char16_t unit) noexcept
-{
-    return static_cast<unsigned>((unit | 0x20) - u'a') < 26;
-}
-
 // English names in lower case, and the length of the short ones. The halves of the day are "am" and "pm", or "a" and
 // "p".
 inline constexpr std::u16string_view ENGLISH_MONTHS[] = {u"january",   u"february", u"march",    u"april",

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "main/core/ASCIILetter.h"
+
 namespace detail {
 
 DateTextPlan::DateTextPlan(std::u16string_view pattern) : m_pattern(pattern)

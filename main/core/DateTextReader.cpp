@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "main/core/ASCIILetter.h"
 #include "main/core/DateTextPlan.h"
 #include "velcoredata/data/Date.h"
 #include "velcoredata/data/DateTime.h"
