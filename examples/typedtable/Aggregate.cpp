@@ -40,7 +40,7 @@ Aggregate::Aggregate(AggregateKind kind, DataType type, Nulls nulls) : m_kind(ki
 
 void Aggregate::Add(DataValue const & value)
 {
-    if (m_kind != AggregateKind::Count && m_nulls == Nulls::Skip && value.IsNull())
+    if (m_kind != AggregateKind::Count && m_nulls == Nulls::Skip && value.IsSpecial())
         return;
     ++m_count;
     switch (m_kind) {
@@ -57,9 +57,9 @@ void Aggregate::Add(DataValue const & value)
 void Aggregate::AddInteger(DataValue const & number)
 {
     DataValue const sum = m_operators.Add(m_total, number);
-    if (!sum.IsNull() && number.GetInt() > 0 && sum.GetInt() < m_total.GetInt())
+    if (!sum.IsSpecial() && number.GetInt() > 0 && sum.GetInt() < m_total.GetInt())
         ++m_wraps;
-    if (!sum.IsNull() && number.GetInt() < 0 && sum.GetInt() > m_total.GetInt())
+    if (!sum.IsSpecial() && number.GetInt() < 0 && sum.GetInt() > m_total.GetInt())
         --m_wraps;
     m_total = sum;
 }
@@ -78,8 +78,10 @@ DataValue Aggregate::GetResult() const
 {
     if (m_kind == AggregateKind::Count)
         return DataValue(m_count);
-    if (m_count == 0 || m_total.IsNull())
+    if (m_count == 0)
         return DataValue(DataValueTypes::Null, ResultType(m_kind, m_type));
+    if (m_total.IsSpecial())
+        return DataValue(m_total.GetSpecial(), ResultType(m_kind, m_type));
     if (m_kind == AggregateKind::Min || m_kind == AggregateKind::Max)
         return m_total;
     if (m_type == DataType::Integer && m_kind == AggregateKind::Sum) {

@@ -35,7 +35,7 @@ AggregateColumns::AggregateColumns(std::vector<AggregateItem> const & items, Sch
         if (!CanAggregate(item.kind, type))
             throw TableError(Text("--%1: column \"%2\" is %3, not a number", NameOf(item.kind), item.column.name,
                                   DataValue::DataTypeToString(type).toStdString()));
-        m_items.push_back({item.kind, column, type, TitleOf(item)});
+        m_items.push_back({item.kind, column, type, TitleOf(item), schema.columns[column].format});
     }
 }
 
@@ -50,7 +50,7 @@ void AggregateColumns::AppendIndices(std::vector<std::size_t> & indices) const
 void AggregateColumns::AppendTitles(Table & table) const
 {
     for (Item const & item : m_items)
-        table.columns.push_back({item.title, ResultType(item.kind, item.type)});
+        table.columns.push_back({item.title, ResultType(item.kind, item.type), item.format});
 }
 
 std::vector<Aggregate> AggregateColumns::Start() const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,7 @@ private:
         std::size_t column;  // any for a count
         DataType type;
         std::string title;
+        std::shared_ptr<NumberFormat const> format = nullptr;  // that of the column
     };
 
     std::vector<Item> m_items;

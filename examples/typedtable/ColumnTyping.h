@@ -10,17 +10,23 @@
 
 namespace typedtable {
 
-/// A cell as a value of a type; nothing if it cannot be read as one. Blanks and tabs around anything but text are
-/// ignored, and a cell of nothing else is the null of the type. What each type reads:
+/// A cell as DataValueOperators::ExplicitCast makes it a value of a type that the user named: %error% if it does not.
+/// Blanks and tabs around anything but text are ignored, and a cell of nothing else is the null of the type. Text that
+/// is no shape is a null of Spatial, as the cast has it. Nothing casts to Boolean.
+DataValue CastCell(std::string_view cell, DataType type, Collation const & collation = GetUnknownCollation());
+
+/// The same for a type that nobody named: nothing if the cell is not written as one (HasShapeOf) or the cast fails. The
+/// value is that of the cast. What each type reads:
 ///
 ///   Integer   an optional sign and digits within 64 signed bits: `42`, `-7`. Not `007`: a leading zero marks an
 ///             identifier, which as a number would lose it
 ///   Real      the same with a point, an exponent or both: `0.5`, `.5`, `1e-3`; and every Integer and whole number
 ///             beyond 64 bits. Not `inf`, `nan` or what a double cannot hold
-///   Boolean   `true` and `false` in any case
+///   Boolean   `true` and `false` in any case, which no cast reads
 ///   Date      yyyy-MM-dd: a day of the years 0400 to 9999
-///   DateTime  yyyy-MM-dd, a T or a blank, HH:mm, then perhaps :ss, then perhaps a point and 1 to 9 digits, rounded to
-///             1/10000 second; and every Date as its midnight. No time zone. Up to 9999-12-31 23:59:59.0000
+///   DateTime  yyyy-MM-dd, a T or a blank, HH:mm, then perhaps :ss, then perhaps a point and 1 to 9 digits, of which
+///   the
+///             first three are read; and every Date as its midnight. No time zone. Up to 9999-12-31 23:59:59
 ///   String    every cell, with its blanks, under the collation
 ///
 /// Only these types are asked for.

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "typedtable/CellShape.h"
 #include "typedtable/ColumnTyping.h"
 #include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
@@ -31,15 +32,6 @@ constexpr std::array kSpellings = {
     Spelling{"<", Comparison::Less},
     Spelling{">", Comparison::Greater},
 };
-
-std::string_view WithoutBlanks(std::string_view text) noexcept
-{
-    static constexpr std::string_view kBlanks = " \t";
-    std::size_t const first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
 
 // Takes a text in quotes from the front; nothing if the quote is never closed.
 std::optional<std::string> TakeQuoted(std::string_view & text)

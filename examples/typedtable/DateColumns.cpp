@@ -58,7 +58,7 @@ void FindDates(InputFile & file, Schema & schema, TLocale const & locale)
 {
     Inferences inferences;
     for (std::size_t i = 0; i < schema.columns.size(); ++i) {
-        if (schema.columns[i].type == DataType::String)
+        if (schema.columns[i].type == DataType::String && !schema.columns[i].isCast)
             inferences.try_emplace(i, locale);
     }
     ReadThrough(file, inferences, &DateInference::Look);

@@ -27,7 +27,7 @@ void Distinct::Add(TypedReader const & row)
     ++m_rows;
     DataValue key = row.GetValue(m_column);
     // Equality of containers keeps 0.0 and -0.0 apart.
-    if (key.GetDataType() == DataType::Real && !key.IsNull() && key.GetReal() == 0.0)
+    if (key.GetDataType() == DataType::Real && !key.IsSpecial() && key.GetReal() == 0.0)
         key = DataValue(0.0);
     auto const [group, isNew] = m_groups.try_emplace(std::move(key));
     if (isNew)
@@ -38,7 +38,8 @@ void Distinct::Add(TypedReader const & row)
 void Distinct::Print(std::ostream & out)
 {
     Table table;
-    table.columns.push_back({m_schema.columns[m_column].name, m_schema.columns[m_column].type});
+    table.columns.push_back(
+        {m_schema.columns[m_column].name, m_schema.columns[m_column].type, m_schema.columns[m_column].format});
     m_items.AppendTitles(table);
     for (auto const & [value, aggregates] : m_groups) {
         std::vector<DataValue> row{value};

@@ -74,7 +74,7 @@ void GroupBy::Add(TypedReader const & row)
 
 DataValue GroupBy::StartOf(DataValue const & date, long long line) const
 {
-    if (date.IsNull())
+    if (date.IsSpecial())
         return DataValue(DataValueTypes::Null, DataType::Date);
     DateTime const day = date.GetDataType() == DataType::Date ? date.GetDate() : date.GetDatetime();
     try {

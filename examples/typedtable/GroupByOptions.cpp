@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "typedtable/CastChoice.h"
 #include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 #include "velcoredata/data/GregorianDateOptions.h"
@@ -66,14 +67,8 @@ GroupByRequest MakeGroupByRequest(std::string const & text, std::optional<int> f
                                   std::optional<int> weekStart, std::vector<AggregateItem> items)
 {
     GroupByRequest request;
-    // A column's name may hold a colon, a period's does not.
-    std::size_t const colon = text.rfind(':');
-    // Nor does a colon within the brackets of a qualified name end it.
-    bool const isInside =
-        colon != std::string::npos && text.starts_with('[') && LengthOfQualifiedName(text, ":") > colon;
-    if (isInside)
-        ReadColumnName("--group-by", text);
-    if (colon == std::string::npos || colon == 0 || isInside)
+    std::size_t const colon = FindColonBehindColumn("--group-by", text);
+    if (colon == std::string::npos)
         throw UserError(Text("--group-by: \"%1\" is not COLUMN:PERIOD", text));
     request.column = ReadColumnName("--group-by", text.substr(0, colon));
     request.periodName = text.substr(colon + 1);

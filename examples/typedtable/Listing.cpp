@@ -9,13 +9,15 @@
 namespace typedtable {
 
 Listing::Listing(ListingRequest const & request, Schema const & schema, bool sqlNulls)
-    : m_schema(schema), m_most(request.rows)
+    : m_schema(schema), m_most(request.rows), m_form(request.form)
 {
     m_operators.SetSQLNullSemantics(sqlNulls);
     if (request.sort)
         m_sortColumn = schema.Find(*request.sort);
+    if (m_form)
+        CheckForm(*m_form, schema);
     for (auto const & column : schema.columns)
-        m_table.columns.push_back({column.name, column.type});
+        m_table.columns.push_back({column.name, column.type, column.format});
 }
 
 std::vector<std::size_t> Listing::GetColumns() const
@@ -56,6 +58,10 @@ void Listing::Print(std::ostream & out)
 {
     if (m_sortColumn)
         Sort();
+    if (m_form) {
+        WriteRows(out, m_table, *m_form);
+        return;
+    }
     PrintTable(out, m_table);
     std::string const count = CountOfRows(m_matching, m_schema.rows);
     bool const isCut = m_table.rows.size() < static_cast<std::size_t>(m_matching);

@@ -12,6 +12,7 @@
 #include "typedtable/Schema.h"
 #include "typedtable/Table.h"
 #include "typedtable/Texts.h"
+#include "typedtable/WrittenRows.h"
 #include "velcoredata/utility/DataValueOperators.h"
 
 namespace typedtable {
@@ -20,6 +21,7 @@ struct ListingRequest
 {
     std::optional<ColumnName> sort;  // a column; without it the order of the file
     std::size_t rows = std::numeric_limits<std::size_t>::max();
+    std::optional<RowForm> form;  // for programs; without it a table
 };
 
 /// Keeps the rows that it will print, since the widest cell sets the width of a column, and while it sorts about twice
@@ -27,7 +29,8 @@ struct ListingRequest
 class Listing : public RowSink
 {
 public:
-    /// Throws TableError if the column is missing. The schema outlives the object.
+    /// Throws TableError if the column is missing, or the form does not go with the columns. The schema outlives the
+    /// object.
     Listing(ListingRequest const & request, Schema const & schema, bool sqlNulls);
 
     std::vector<std::size_t> GetColumns() const override;
@@ -35,7 +38,7 @@ public:
     void Add(TypedReader const & row) override;
 
     /// The rows by rising value of the sorted column as DataValueOperators::Compare has it, nulls first, equal ones in
-    /// the order of the file; then "12 of 2922 rows, the first 5 shown".
+    /// the order of the file; then "12 of 2922 rows, the first 5 shown". With a form the rows alone.
     void Print(std::ostream & out) override;
 
 private:
@@ -44,6 +47,7 @@ private:
     Schema const & m_schema;
     std::optional<std::size_t> m_sortColumn;
     std::size_t m_most;
+    std::optional<RowForm> m_form;
     long long m_matching = 0;
     Table m_table;
     DataValueOperators m_operators;

@@ -80,7 +80,7 @@ private:
         if (equals != std::string::npos)
             m_attached = argument.substr(equals + 1);
         if (!ReadNumberOption(name) && !ReadTextOption(name) && !ReadFlag(name) && !ReadAggregate(name) &&
-            !ReadListLocales(name) && !ReadDateOption(name))
+            !ReadListLocales(name) && !ReadDateOption(name) && !ReadColumnOption(name))
             throw UserError(Text("unknown option \"%1\"; typedtable --help lists them", name));
         if (m_attached)
             throw UserError(Text("%1 takes no value", name));
@@ -181,6 +181,14 @@ private:
         return true;
     }
 
+    bool ReadColumnOption(std::string const & name)
+    {
+        if (!ColumnOptions::IsOption(name))
+            return false;
+        m_columns.Add(name, TakeValue(name));
+        return true;
+    }
+
     // The text behind "=", else the next argument.
     std::string TakeValue(std::string const & option)
     {
@@ -232,6 +240,8 @@ private:
         options.collation = FinishCollation();
         options.dates = m_dates;
         options.dates.locale = m_locale;
+        options.casts = m_columns.GetCasts();
+        options.formats = m_columns.MakeFormats(m_locale);
         if (m_sqlNulls && !m_where && !m_sort &&
             !HasItem([](AggregateKind kind) { return kind != AggregateKind::Count; }))
             throw UserError(Text("--sql-nulls needs --where, --sort, --sum, --mean, --min or --max"));
@@ -247,14 +257,17 @@ private:
             throw UserError(Text("%1 needs %2", "--week-start", "--group-by"));
         if (m_groupBy && m_distinct)
             throw UserError(Text("--group-by and --distinct both gather rows: give one of them"));
-        if ((m_groupBy || m_distinct || !m_items.empty()) && (m_rows || m_sort)) {
-            std::string const shown = m_rows ? "--rows" : "--sort";
+        if ((m_groupBy || m_distinct || !m_items.empty()) && (m_rows || m_sort || m_columns.GetForm())) {
+            std::string const shown = m_rows ? "--rows" : m_sort ? "--sort" : "--as";
             if (m_groupBy || m_distinct)
                 throw UserError(Text("%1 shows rows and %2 shows groups: give one of them", shown,
                                      m_groupBy ? "--group-by" : "--distinct"));
             throw UserError(
                 Text("%1 shows rows and %2 shows one line: give one of them", shown, OptionOf(m_items.front().kind)));
         }
+        if (m_columns.GetForm() && (m_columns.HasFormats() || m_dates.datesAs))
+            throw UserError(Text("%1 is for tables and %2 writes none: give one of them",
+                                 m_columns.HasFormats() ? "--format" : "--dates-as", "--as"));
         if (m_groupBy)
             return MakeGroupByRequest(*m_groupBy, m_fiscalStart, m_weekStart, std::move(m_items));
         if (m_distinct) {
@@ -264,8 +277,9 @@ private:
         }
         if (!m_items.empty())
             return SummaryRequest{std::move(m_items)};
-        if (m_sort || m_where || m_find) {
+        if (m_sort || m_where || m_find || m_columns.GetForm()) {
             ListingRequest request;
+            request.form = m_columns.GetForm();
             if (m_sort)
                 request.sort = ReadColumnName("--sort", *m_sort);
             if (m_rows)
@@ -293,8 +307,9 @@ private:
                             });
         if (m_collation && !isUsed)
             throw UserError(Text("%1 needs --sort, --distinct, --find, --where, --min or --max", "--collation"));
-        if (m_locale && !isUsed && !m_dates.datesAs)
-            throw UserError(Text("--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as"));
+        if (m_locale && !isUsed && !m_dates.datesAs && !m_columns.HasFormats())
+            throw UserError(
+                Text("--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format"));
         return {m_collation, m_locale, m_ignoreCase, m_ignoreAccents, m_wordSort};
     }
 
@@ -325,6 +340,7 @@ private:
     std::optional<std::string> m_language;  // FindLanguage has it
     std::optional<std::string> m_dateOrder;
     DateChoice m_dates;
+    ColumnOptions m_columns;
     bool m_ignoreCase = false;
     bool m_ignoreAccents = false;
     bool m_wordSort = false;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "typedtable/CollationChoice.h"
+#include "typedtable/ColumnOptions.h"
 #include "typedtable/DateChoice.h"
 #include "typedtable/Distinct.h"
 #include "typedtable/GroupBy.h"
@@ -43,6 +44,8 @@ struct Options
     FilterRequest filter;
     CollationChoice collation;
     DateChoice dates;
+    std::vector<CastChoice> casts;
+    std::vector<FormatChoice> formats;
     bool sqlNulls = false;
 };
 

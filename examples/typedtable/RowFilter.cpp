@@ -54,7 +54,9 @@ bool RowFilter::Matches(TypedReader const & row) const
 
 bool RowFilter::Satisfies(DataValue const & value) const
 {
-    if (m_sqlNulls && (value.IsNull() || m_where->literal.IsNull()))
+    if (m_sqlNulls && (value.IsSpecial() || m_where->literal.IsNull()))
+        return false;
+    if (value.IsSpecial() && !value.IsNull())  // %error%: nothing is known of it
         return false;
     return Holds(m_where->comparison, m_operators.Compare(value, m_where->literal, false));
 }

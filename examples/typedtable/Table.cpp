@@ -1,5 +1,6 @@
 #include "typedtable/Table.h"
 
+#include "typedtable/NumberFormat.h"
 #include "typedtable/TextTable.h"
 #include "typedtable/ValueText.h"
 
@@ -13,8 +14,10 @@ void PrintTable(std::ostream & out, Table const & table)
                        IsNumeric(column.type) ? TextTable::Align::Right : TextTable::Align::Left);
     for (auto const & row : table.rows) {
         std::vector<std::string> cells;
-        for (DataValue const & value : row)
-            cells.push_back(ValueText(value));
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            NumberFormat const * const format = table.columns[i].format.get();
+            cells.push_back(format && !row[i].IsSpecial() ? OnOneLine(format->TextOf(row[i])) : ValueText(row[i]));
+        }
         text.AddRow(std::move(cells));
     }
     text.Print(out);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,8 @@
 #include "velcoredata/data/DataValue.h"
 
 namespace typedtable {
+
+class NumberFormat;
 
 /// Rows of a file, or groups: what the program prints. Each row has one value a column, of the column's type or a null
 /// of it.
@@ -18,6 +21,7 @@ struct Table
     {
         std::string name;  // UTF-8
         DataType type;
+        std::shared_ptr<NumberFormat const> format = nullptr;  // of a column of numbers that has one
     };
 
     std::vector<Column> columns;

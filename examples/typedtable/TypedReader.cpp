@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "typedtable/ColumnTyping.h"
 #include "typedtable/Texts.h"
 #include "typedtable/UserError.h"
 
@@ -39,9 +38,7 @@ bool TypedReader::Next()
     if (cells.size() != m_values.size())
         ThrowChanged(m_reader.GetLine());
     for (std::size_t const column : m_columns) {
-        auto const & dates = m_schema.columns[column].dates;
-        auto value =
-            dates ? dates->Read(cells[column]) : ReadCell(cells[column], m_schema.columns[column].type, m_collation);
+        auto value = ReadValue(m_schema.columns[column], cells[column], m_collation);
         if (!value)
             ThrowChanged(m_reader.GetLine());
         m_values[column] = std::move(*value);

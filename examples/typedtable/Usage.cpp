@@ -4,7 +4,7 @@ namespace typedtable {
 
 char const * const kUsage =
     R"(usage: typedtable FILE [--rows N]
-       typedtable FILE [--where CONDITION] [--find TEXT] [--sort COLUMN] [--rows N]
+       typedtable FILE [--where CONDITION] [--find TEXT] [--sort COLUMN] [--rows N] [--as FORM]
        typedtable FILE --sum|--mean|--min|--max COLUMN... [--count]
        typedtable FILE --distinct COLUMN [--sum|--mean|--min|--max COLUMN]... [--count]
        typedtable FILE --group-by COLUMN:PERIOD [--sum|--mean|--min|--max COLUMN]... [--count]
@@ -49,6 +49,17 @@ How texts are compared and searched
   --list-locales [PATTERN]
                        print the locales that there are, with their names and short dates, or those whose name has a match
                        of a regular expression, upper or lower case: --list-locales '^sv_|finland'
+
+How cells become values and values are written, with every task
+  --cast COLUMN:TYPE   the column is of this type, whatever its cells look like: integer, real, date, datetime, string or
+                       spatial. What does not cast becomes %error%, is counted apart from the nulls, and the first such
+                       cells are shown with their lines. May be given again
+  --format COLUMN=FORMAT
+                       print a column of numbers, and its sums, means and extremes, by an encoded number format:
+                       wind=n#,##0.00;(#,##0.00) or wind=p0.0% or wind=e0.00e+00. Separators are those of the locale in
+                       the format, n!de_DE!#,##0, or of --locale, or English. May be given again
+  --as FORM            write rows for other programs: values (the text of a document, below a line of attributes for
+                       each column), literals (of a query), or wkt (as values, with shapes as WKT)
 
 How dates are read and printed, with every task
   --dates-in LOCALE    columns of texts that are dates as people write them in the locale become columns of dates.

@@ -4,6 +4,7 @@
 
 #include "typedtable/DatePrinting.h"
 #include "velcoredata/data/DateTime.h"
+#include "velcoredata/parser/DataValueFormatter.h"
 #include "velcoreplatform/TString.h"
 
 namespace typedtable {
@@ -34,18 +35,26 @@ std::string DateTimeText(DateTime const & value)
     return result;
 }
 
+std::string WktText(DataValue const & value)
+{
+    DataValueFormatter::FormatOptions options;
+    options.spatialAsWkt = true;
+    return DataValueFormatter::Format(value, options).toStdString();
+}
+
 }  // namespace
 
 std::string ValueText(DataValue const & value)
 {
-    if (value.IsNull())
-        return "%null%";
+    if (value.IsSpecial())
+        return value.IsNull() ? "%null%" : "%error%";
     switch (value.GetDataType()) {
     case DataType::Integer: return std::to_string(value.GetInt());
     case DataType::Real: return TString::number(value.GetReal(), 'g', 15).toStdString();
     case DataType::Boolean: return value.GetBool() ? "true" : "false";
     case DataType::Date: return DateText(value.GetDate());
     case DataType::DateTime: return DateTimeText(value.GetDatetime());
+    case DataType::Spatial: return WktText(value);
     default: return OnOneLine(value.GetString().toStdString());
     }
 }

@@ -9,7 +9,8 @@
 namespace typedtable {
 
 /// UTF-8 text of a value: `42`, `12.8` (15 significant digits), `true`, `2012-01-31`, `2012-01-31 06:30:00`,
-/// `2012-01-31 06:30:00.2500`, a text as OnOneLine has it, and `%null%`. Dates have the form of the DatePrinting that
+/// `2012-01-31 06:30:00.2500`, a text as OnOneLine has it, a shape as WKT,
+/// `%null%` and `%error%`. Dates have the form of the DatePrinting that
 /// lives, if any.
 std::string ValueText(DataValue const & value);
 

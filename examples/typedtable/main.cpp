@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "typedtable/CastReport.h"
 #include "typedtable/DateChoice.h"
 #include "typedtable/DateColumns.h"
 #include "typedtable/DatePrinting.h"
@@ -50,10 +51,10 @@ std::unique_ptr<RowSink> MakeSink(Options const & options, Schema const & schema
 
 Schema ReadTypes(Options const & options, InputFile & file, std::size_t firstRows)
 {
-    Schema schema = ReadSchema(file, firstRows);
-    schema.source = file.GetDataSourceName();
+    Schema schema = ReadSchema(file, firstRows, options.casts, file.GetDataSourceName());
     if (options.dates.datesIn)
         FindDates(file, schema, MakeLocale("--dates-in", *options.dates.datesIn));
+    ApplyFormats(schema, options.formats);
     return schema;
 }
 
@@ -61,6 +62,7 @@ void PrintRows(std::ostream & out, Options const & options, Collation const & co
 {
     Schema const schema = ReadTypes(options, file, 0);
     WarnOfDates(std::cerr, file.GetName(), schema);
+    WarnOfOffences(std::cerr, file.GetName(), schema);
     auto const sink = MakeSink(options, schema);
     RowFilter const filter(options.filter, schema, collation, options.sqlNulls);
     std::vector<std::size_t> columns = sink->GetColumns();

@@ -152,7 +152,7 @@ class Dates(Program):
         self.assert_refuses("--dates-in is given twice", path, "--dates-in", "de_DE", "--dates-in", "de_DE")
         self.assert_refuses("--dates-as: the value is empty", path, "--dates-as", "")
         self.assert_refuses("--date-order stands alone", path, "--date-order", "de_DE")
-        self.assert_refuses("--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as", path,
+        self.assert_refuses("--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format", path,
                             "--locale", "de_DE", "--dates-in", "de_DE")
 
 

@@ -482,7 +482,7 @@ class Refusals(Program):
                 ([*sort, "--locale", "en", "--word-sort=yes"], "--word-sort takes no value"),
                 ([AIRPORTS, "--collation", "LEN"], "--collation needs --sort, --distinct, --find, --where, --min or --max"),
                 ([AIRPORTS, "--sum", "latitude", "--locale", "en"],
-                 "--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as"),
+                 "--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format"),
                 ([AIRPORTS, "--sql-nulls"], "--sql-nulls needs --where, --sort, --sum, --mean, --min or --max"),
                 ([AIRPORTS, "--count", "--sql-nulls"],
                  "--sql-nulls needs --where, --sort, --sum, --mean, --min or --max"),

@@ -24,6 +24,10 @@
         <translation>%1 gehört zu --locale; der Name hinter --collation sagt alles</translation>
     </message>
     <message>
+        <source>%1 is for tables and %2 writes none: give one of them</source>
+        <translation>%1 ist für Tabellen und %2 schreibt keine: nur eines davon geht</translation>
+    </message>
+    <message>
         <source>%1 is given twice</source>
         <translation>%1 steht zweimal da</translation>
     </message>
@@ -108,6 +112,14 @@
         <translation>%1: „%2“ ist keine Zahl von %3 bis %4</translation>
     </message>
     <message>
+        <source>%1: column "%2" is given twice</source>
+        <translation>%1: die Spalte „%2“ steht zweimal da</translation>
+    </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are no %5, the first on line %6: "%7"</source>
+        <translation>%1: Spalte „%2“: %3 von %4 Zellen sind kein %5, die erste in Zeile %6: „%7“</translation>
+    </message>
+    <message>
         <source>%1: is a folder, not a file</source>
         <translation>%1: ist ein Ordner, keine Datei</translation>
     </message>
@@ -120,6 +132,22 @@
         <translation>--%1: Spalte „%2“ ist %3, keine Zahl</translation>
     </message>
     <message>
+        <source>--as wkt: no column is SPATIAL; --cast COLUMN:spatial makes one</source>
+        <translation>--as wkt: keine Spalte ist SPATIAL; --cast COLUMN:spatial macht eine</translation>
+    </message>
+    <message>
+        <source>--as: "%1" is none of values, literals and wkt</source>
+        <translation>--as: „%1“ ist keines von values, literals und wkt</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not COLUMN:TYPE</source>
+        <translation>--cast: „%1“ ist nicht COLUMN:TYPE</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not a type: %2</source>
+        <translation>--cast: „%1“ ist kein Typ: %2</translation>
+    </message>
+    <message>
         <source>--collation and --locale both name a collation: give one of them</source>
         <translation>--collation und --locale nennen beide eine Sortierung: nur eines davon geht</translation>
     </message>
@@ -130,6 +158,18 @@
     <message>
         <source>--fiscal-start moves years and quarters, not %1s</source>
         <translation>--fiscal-start verschiebt Jahre und Quartale, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not COLUMN=FORMAT</source>
+        <translation>--format: „%1“ ist nicht COLUMN=FORMAT</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not a number format, as "n#,##0.00" is</source>
+        <translation>--format: „%1“ ist kein Zahlenformat wie „n#,##0.00“</translation>
+    </message>
+    <message>
+        <source>--format: a format has %1 bytes, more than %2</source>
+        <translation>--format: ein Format hat %1 Bytes, mehr als %2</translation>
     </message>
     <message>
         <source>--group-by and --distinct both gather rows: give one of them</source>
@@ -244,6 +284,10 @@
         <translation>Beschreibung</translation>
     </message>
     <message>
+        <source>errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
         <source>flags</source>
         <translation>Schalter</translation>
     </message>
@@ -278,6 +322,10 @@
     <message>
         <source>lcid</source>
         <translation>LCID</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -338,6 +386,10 @@
     <message>
         <source>nulls</source>
         <translation>Nullwerte</translation>
+    </message>
+    <message>
+        <source>offending cell</source>
+        <translation>fehlerhafte Zelle</translation>
     </message>
     <message>
         <source>quarter</source>
@@ -472,8 +524,8 @@
         <translation>(eigene Formen)</translation>
     </message>
     <message>
-        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
-        <translation>--locale braucht --sort, --distinct, --find, --where, --min, --max oder --dates-as</translation>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format</source>
+        <translation>--locale braucht --sort, --distinct, --find, --where, --min, --max, --dates-as oder --format</translation>
     </message>
     <message>
         <source>%1: column "%2": %3 of %4 cells are not written as %5</source>

@@ -24,6 +24,10 @@
         <translation>%1 va con --locale; el nombre tras --collation lo dice todo</translation>
     </message>
     <message>
+        <source>%1 is for tables and %2 writes none: give one of them</source>
+        <translation>%1 es para tablas y %2 no escribe ninguna: indique una de las dos</translation>
+    </message>
+    <message>
         <source>%1 is given twice</source>
         <translation>%1 aparece dos veces</translation>
     </message>
@@ -108,6 +112,14 @@
         <translation>%1: «%2» no es un número de %3 a %4</translation>
     </message>
     <message>
+        <source>%1: column "%2" is given twice</source>
+        <translation>%1: la columna «%2» se indica dos veces</translation>
+    </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are no %5, the first on line %6: "%7"</source>
+        <translation>%1: columna «%2»: %3 de %4 celdas no son %5, la primera en la línea %6: «%7»</translation>
+    </message>
+    <message>
         <source>%1: is a folder, not a file</source>
         <translation>%1: es una carpeta, no un archivo</translation>
     </message>
@@ -120,6 +132,22 @@
         <translation>--%1: la columna «%2» es %3, no un número</translation>
     </message>
     <message>
+        <source>--as wkt: no column is SPATIAL; --cast COLUMN:spatial makes one</source>
+        <translation>--as wkt: ninguna columna es SPATIAL; --cast COLUMN:spatial hace una</translation>
+    </message>
+    <message>
+        <source>--as: "%1" is none of values, literals and wkt</source>
+        <translation>--as: «%1» no es values, literals ni wkt</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not COLUMN:TYPE</source>
+        <translation>--cast: «%1» no es COLUMN:TYPE</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not a type: %2</source>
+        <translation>--cast: «%1» no es un tipo: %2</translation>
+    </message>
+    <message>
         <source>--collation and --locale both name a collation: give one of them</source>
         <translation>--collation y --locale nombran ambos una intercalación: indique solo uno</translation>
     </message>
@@ -130,6 +158,18 @@
     <message>
         <source>--fiscal-start moves years and quarters, not %1s</source>
         <translation>--fiscal-start desplaza años y trimestres, no «%1»</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not COLUMN=FORMAT</source>
+        <translation>--format: «%1» no es COLUMN=FORMAT</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not a number format, as "n#,##0.00" is</source>
+        <translation>--format: «%1» no es un formato de números como «n#,##0.00»</translation>
+    </message>
+    <message>
+        <source>--format: a format has %1 bytes, more than %2</source>
+        <translation>--format: un formato tiene %1 bytes, más de %2</translation>
     </message>
     <message>
         <source>--group-by and --distinct both gather rows: give one of them</source>
@@ -244,6 +284,10 @@
         <translation>descripción</translation>
     </message>
     <message>
+        <source>errors</source>
+        <translation>errores</translation>
+    </message>
+    <message>
         <source>flags</source>
         <translation>indicadores</translation>
     </message>
@@ -278,6 +322,10 @@
     <message>
         <source>lcid</source>
         <translation>LCID</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>línea</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -338,6 +386,10 @@
     <message>
         <source>nulls</source>
         <translation>nulos</translation>
+    </message>
+    <message>
+        <source>offending cell</source>
+        <translation>celda errónea</translation>
     </message>
     <message>
         <source>quarter</source>
@@ -472,8 +524,8 @@
         <translation>(formas propias)</translation>
     </message>
     <message>
-        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
-        <translation>--locale necesita --sort, --distinct, --find, --where, --min, --max o --dates-as</translation>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format</source>
+        <translation>--locale necesita --sort, --distinct, --find, --where, --min, --max, --dates-as o --format</translation>
     </message>
     <message>
         <source>%1: column "%2": %3 of %4 cells are not written as %5</source>

@@ -24,6 +24,10 @@
         <translation>%1 va avec --locale ; le nom derrière --collation dit tout</translation>
     </message>
     <message>
+        <source>%1 is for tables and %2 writes none: give one of them</source>
+        <translation>%1 vaut pour les tableaux et %2 n’en écrit pas : choisissez l’un des deux</translation>
+    </message>
+    <message>
         <source>%1 is given twice</source>
         <translation>%1 est donné deux fois</translation>
     </message>
@@ -108,6 +112,14 @@
         <translation>%1 : « %2 » n’est pas un nombre de %3 à %4</translation>
     </message>
     <message>
+        <source>%1: column "%2" is given twice</source>
+        <translation>%1 : la colonne « %2 » est donnée deux fois</translation>
+    </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are no %5, the first on line %6: "%7"</source>
+        <translation>%1 : colonne « %2 » : %3 cellules sur %4 ne sont pas %5, la première à la ligne %6 : « %7 »</translation>
+    </message>
+    <message>
         <source>%1: is a folder, not a file</source>
         <translation>%1 : est un dossier, pas un fichier</translation>
     </message>
@@ -120,6 +132,22 @@
         <translation>--%1 : la colonne « %2 » est %3, pas un nombre</translation>
     </message>
     <message>
+        <source>--as wkt: no column is SPATIAL; --cast COLUMN:spatial makes one</source>
+        <translation>--as wkt : aucune colonne n’est SPATIAL ; --cast COLUMN:spatial en fait une</translation>
+    </message>
+    <message>
+        <source>--as: "%1" is none of values, literals and wkt</source>
+        <translation>--as : « %1 » n’est ni values, ni literals, ni wkt</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not COLUMN:TYPE</source>
+        <translation>--cast : « %1 » n’est pas COLUMN:TYPE</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not a type: %2</source>
+        <translation>--cast : « %1 » n’est pas un type : %2</translation>
+    </message>
+    <message>
         <source>--collation and --locale both name a collation: give one of them</source>
         <translation>--collation et --locale nomment tous deux un classement : donnez l’un des deux</translation>
     </message>
@@ -130,6 +158,18 @@
     <message>
         <source>--fiscal-start moves years and quarters, not %1s</source>
         <translation>--fiscal-start décale les années et les trimestres, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not COLUMN=FORMAT</source>
+        <translation>--format : « %1 » n’est pas COLUMN=FORMAT</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not a number format, as "n#,##0.00" is</source>
+        <translation>--format : « %1 » n’est pas un format de nombres comme « n#,##0.00 »</translation>
+    </message>
+    <message>
+        <source>--format: a format has %1 bytes, more than %2</source>
+        <translation>--format : un format a %1 octets, plus de %2</translation>
     </message>
     <message>
         <source>--group-by and --distinct both gather rows: give one of them</source>
@@ -244,6 +284,10 @@
         <translation>description</translation>
     </message>
     <message>
+        <source>errors</source>
+        <translation>erreurs</translation>
+    </message>
+    <message>
         <source>flags</source>
         <translation>indicateurs</translation>
     </message>
@@ -278,6 +322,10 @@
     <message>
         <source>lcid</source>
         <translation>LCID</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>ligne</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -338,6 +386,10 @@
     <message>
         <source>nulls</source>
         <translation>nuls</translation>
+    </message>
+    <message>
+        <source>offending cell</source>
+        <translation>cellule fautive</translation>
     </message>
     <message>
         <source>quarter</source>
@@ -472,8 +524,8 @@
         <translation>(formes propres)</translation>
     </message>
     <message>
-        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
-        <translation>--locale nécessite --sort, --distinct, --find, --where, --min, --max ou --dates-as</translation>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format</source>
+        <translation>--locale nécessite --sort, --distinct, --find, --where, --min, --max, --dates-as ou --format</translation>
     </message>
     <message>
         <source>%1: column "%2": %3 of %4 cells are not written as %5</source>

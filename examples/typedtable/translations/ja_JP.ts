@@ -24,6 +24,10 @@
         <translation>%1 は --locale と使います。--collation の名前がすべてを決めます</translation>
     </message>
     <message>
+        <source>%1 is for tables and %2 writes none: give one of them</source>
+        <translation>%1 は表のためのもので、%2 は表を書きません。どちらか一方を指定してください</translation>
+    </message>
+    <message>
         <source>%1 is given twice</source>
         <translation>%1 が 2 回指定されています</translation>
     </message>
@@ -108,6 +112,14 @@
         <translation>%1: 「%2」は %3 から %4 までの数ではありません</translation>
     </message>
     <message>
+        <source>%1: column "%2" is given twice</source>
+        <translation>%1: 列「%2」が 2 回指定されています</translation>
+    </message>
+    <message>
+        <source>%1: column "%2": %3 of %4 cells are no %5, the first on line %6: "%7"</source>
+        <translation>%1: 列「%2」: %4 個のセルのうち %3 個が %5 ではありません。最初は %6 行目: 「%7」</translation>
+    </message>
+    <message>
         <source>%1: is a folder, not a file</source>
         <translation>%1: ファイルではなくフォルダーです</translation>
     </message>
@@ -120,6 +132,22 @@
         <translation>--%1: 列「%2」は %3 で、数値ではありません</translation>
     </message>
     <message>
+        <source>--as wkt: no column is SPATIAL; --cast COLUMN:spatial makes one</source>
+        <translation>--as wkt: SPATIAL の列がありません。--cast COLUMN:spatial で作れます</translation>
+    </message>
+    <message>
+        <source>--as: "%1" is none of values, literals and wkt</source>
+        <translation>--as: 「%1」は values、literals、wkt のいずれでもありません</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not COLUMN:TYPE</source>
+        <translation>--cast: 「%1」は COLUMN:TYPE ではありません</translation>
+    </message>
+    <message>
+        <source>--cast: "%1" is not a type: %2</source>
+        <translation>--cast: 「%1」は型ではありません: %2</translation>
+    </message>
+    <message>
         <source>--collation and --locale both name a collation: give one of them</source>
         <translation>--collation と --locale はどちらも照合順序を指定します。どちらか一方を指定してください</translation>
     </message>
@@ -130,6 +158,18 @@
     <message>
         <source>--fiscal-start moves years and quarters, not %1s</source>
         <translation>--fiscal-start が動かすのは年と四半期で、「%1」ではありません</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not COLUMN=FORMAT</source>
+        <translation>--format: 「%1」は COLUMN=FORMAT ではありません</translation>
+    </message>
+    <message>
+        <source>--format: "%1" is not a number format, as "n#,##0.00" is</source>
+        <translation>--format: 「%1」は「n#,##0.00」のような数値の書式ではありません</translation>
+    </message>
+    <message>
+        <source>--format: a format has %1 bytes, more than %2</source>
+        <translation>--format: 書式が %1 バイトあり、%2 を超えています</translation>
     </message>
     <message>
         <source>--group-by and --distinct both gather rows: give one of them</source>
@@ -244,6 +284,10 @@
         <translation>説明</translation>
     </message>
     <message>
+        <source>errors</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
         <source>flags</source>
         <translation>フラグ</translation>
     </message>
@@ -278,6 +322,10 @@
     <message>
         <source>lcid</source>
         <translation>LCID</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>行</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -338,6 +386,10 @@
     <message>
         <source>nulls</source>
         <translation>null 数</translation>
+    </message>
+    <message>
+        <source>offending cell</source>
+        <translation>問題のセル</translation>
     </message>
     <message>
         <source>quarter</source>
@@ -472,8 +524,8 @@
         <translation>（固有の書式）</translation>
     </message>
     <message>
-        <source>--locale needs --sort, --distinct, --find, --where, --min, --max or --dates-as</source>
-        <translation>--locale には --sort、--distinct、--find、--where、--min、--max、--dates-as のいずれかが必要です</translation>
+        <source>--locale needs --sort, --distinct, --find, --where, --min, --max, --dates-as or --format</source>
+        <translation>--locale には --sort、--distinct、--find、--where、--min、--max、--dates-as、--format のいずれかが必要です</translation>
     </message>
     <message>
         <source>%1: column "%2": %3 of %4 cells are not written as %5</source>
