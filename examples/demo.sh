@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Shows typedtable on daily weather and on airports. TYPEDTABLE: the program, if not the one of the release build.
+# Shows typedtable on daily weather and on airports, and the whole road of a value: text, typed value, computed, written
+# for a person, a document and a query. TYPEDTABLE: the program, if not the one of the release build.
 set -eu
 cd "$(dirname "$0")/.."
 program=${TYPEDTABLE:-build/release/examples/typedtable}
@@ -8,7 +9,7 @@ run() {
     printf '\n$ typedtable'
     for word in "$@"; do
         case $word in
-        *[][\ \>\<]*) printf " '%s'" "$word" ;;
+        *[][\ \>\<\#\;\(]*) printf " '%s'" "$word" ;;
         *) printf ' %s' "$word" ;;
         esac
     done
@@ -32,3 +33,9 @@ run examples/data/seattle-months.csv --dates-in en_US --dates-as "d. MMMM yyyy" 
 run examples/data/seattle-months.csv --dates-in en_US --group-by month:year --sum precipitation --max warmest
 run --date-order en_US
 run --date-order de_DE
+run examples/data/airports.csv --cast iata:integer --rows 3
+run examples/data/airports.csv --cast iata:integer --where 'iata > 0' --min iata --max iata --count
+run examples/data/weather.csv --group-by date:year --sum precipitation --mean temp_min --format 'precipitation=n#,##0.00' --format 'temp_min=n0.0;(0.0)'
+run examples/data/weather.csv --where 'temp_max > 37' --as values
+run examples/data/cities.csv --cast shape:spatial --as wkt
+run examples/data/weather.csv --where 'temp_max > 37' --as literals
