@@ -65,6 +65,7 @@ void detail::DateText::Judge() noexcept
     if (m_text.size() > LONGEST_PLAIN)
         return;
     int digits = 0;
+    int letters = 0;
     Kind before = Blank;
     for (std::size_t i = 0; i < m_text.size(); ++i) {
         char16_t const unit = m_text[i];
@@ -83,9 +84,11 @@ void detail::DateText::Judge() noexcept
                 ((unit | 0x20) == u'n' && i >= 2 && (m_text[i - 1] | 0x20) == u'a' && (m_text[i - 2] | 0x20) == u'n'))
                 return;
             m_letters = true;
+            ++letters;
             break;
         case Minus:
-            if (before != Digit && before != Letter)
+            // Behind the name of a month it is a mark, behind the T of ISO 8601 a sign.
+            if (before != Digit && (before != Letter || letters < 3))
                 return;
             [[fallthrough]];
         case Mark: m_signature += SignatureOf(unit); break;
@@ -93,6 +96,8 @@ void detail::DateText::Judge() noexcept
         }
         if (kind != Digit)
             digits = 0;
+        if (kind != Letter)
+            letters = 0;
         before = kind;
     }
     m_plain = true;

@@ -141,6 +141,39 @@ TEST_P(DatePatternPeer, EveryCodeUnitOfATextCountsAsForIcu)
     }
 }
 
+// The only number that a sign leaves in its field's range.
+TEST_P(DatePatternPeer, AZeroWithASignReadsAsForIcu)
+{
+    struct Case
+    {
+        char16_t const * text;
+        char16_t const * pattern;
+    };
+    static constexpr Case cases[] = {
+        {u"2020-01-02T-0:04", u"yyyy-MM-dd'T'HH:mm"},
+        {u"1987-01-11T-0:09:52.142000Z", u"yyyy-MM-dd'T'HH:mm:ss.SSSSSS'Z'"},
+        {u"2020-01-02-00:04", u"yyyy-MM-dd HH:mm"},
+        {u"2020-01-02 -0:04", u"yyyy-MM-dd HH:mm"},
+        {u"2020-01-02 00:-0", u"yyyy-MM-dd HH:mm"},
+        {u"2020-01-02 00:00:00.-0", u"yyyy-MM-dd HH:mm:ss.SSS"},
+        {u"5-Jan-2020-0:04", u"d-MMM-yyyy HH:mm"},
+        {u"5-Jan-0", u"d-MMM-yy"},
+        {u"5 Jan-0", u"d MMM yy"},
+        {u"Jan-0", u"MMM yyyy"},
+        {u"12AM-0", u"hha-mm"},
+        {u"12AM-0", u"hha mm"},
+    };
+    test_support::QuietLogger const quiet;
+    test_support::DateSearchPair pair(GetParam());
+    for (Case const & c : cases) {
+        pair.StartAnew(false, true);
+        for (auto const step :
+             {test_support::DateSearchPair::Step::Pattern, test_support::DateSearchPair::Step::DateTime})
+            EXPECT_EQ(pair.Take(step, c.text, c.pattern, DateTime(), ParseDateAndTime), "")
+                << Utf8(c.text) << " [" << Utf8(c.pattern) << ']';
+    }
+}
+
 TEST_P(DatePatternPeer, AnyPatternPrintsAsIcuPrintsIt)
 {
     TLocale const locale(GetParam());
