@@ -200,7 +200,7 @@ bool TLocale::TryISOShapes(DateText const & text, DateTimeParseOptions options, 
 bool TLocale::ParseDateTime(char16_t const * text, char16_t const * pattern, DateTime & out,
                             DateTimeParseOptions options) const
 {
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTime", __FILE__, __LINE__);
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, __FILE__, "TLocale::ParseDateTime", __LINE__);
     DateTextPlan const * const plan = GetPlan();
     // Applying a pattern that the formatter holds changes nothing.
     bool const holdsPattern = plan != nullptr && pattern != nullptr && plan->GetPattern() == pattern &&
@@ -226,7 +226,7 @@ bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime & out, 
 bool TLocale::ParseDateTimeTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                          DateTimeParseOptions options) const
 {
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTimeTryAllFormats", __FILE__,
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, __FILE__, "TLocale::ParseDateTimeTryAllFormats",
                                __LINE__);
     if (m_cacheFormatter && ReadExactForm(text, out, options)) {
         m_parseCount = detail::WrapAdd(m_parseCount, 1);
@@ -253,7 +253,7 @@ bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime & out, Date
 bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime const & reference, DateTime & out,
                                      DateTimeParseOptions options) const
 {
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseDateTryAllFormats", __FILE__, __LINE__);
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, __FILE__, "TLocale::ParseDateTryAllFormats", __LINE__);
     if (m_cacheFormatter && ReadExactForm(text, out, options)) {
         m_parseCount = detail::WrapAdd(m_parseCount, 1);
         m_lastParseNative = false;
@@ -274,7 +274,7 @@ bool TLocale::ParseDateTryAllFormats(char16_t const * text, DateTime const & ref
 std::tuple<bool, DateTime> TLocale::ParseTimeTryAllFormats(TString const & text) const
 {
     DateText const whole(text.View());
-    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, "TLocale::ParseTimeTryAllFormats", __FILE__, __LINE__);
+    AutoSynchronize const lock(m_parseMutex, PARSE_LOCK_CLASS, __FILE__, "TLocale::ParseTimeTryAllFormats", __LINE__);
     m_parseCount = detail::WrapAdd(m_parseCount, 1);
     PlannedPatterns const & patterns = TimePatterns();
     PopulateFormatterAndCalendar(patterns.Text(0));
