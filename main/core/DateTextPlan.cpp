@@ -165,7 +165,12 @@ void DateTextPlan::DrawForm()
             return;
         switch (step.field) {
         case Field::Literal: add(step.unit, 0); break;
-        case Field::Blank: add(u' ', 0); break;
+        case Field::Blank:
+            // Texts are read without blanks at their ends.
+            if (i == 0 || i + 1u == m_count)
+                return;
+            add(u' ', 0);
+            break;
         case Field::MonthName:
         case Field::Half:
         case Field::HourOfHalf: return;

@@ -35,6 +35,10 @@ int CountOfTexts()
 std::u16string_view const EXTRA_PATTERNS[] = {
     u"yyyyMMdd",
     u"yyyyMMdd'T'HHmmss",
+    u"yyyyMMddHHmmssSSS",
+    u" yyyy-MM-dd",
+    u"yyyy-MM-dd ",
+    u"/yyyy-MM-dd",
     u"HHmmss",
     u"ddMMyy",
     u"M/d/yy h:mm a",
@@ -139,7 +143,8 @@ private:
 class Pair
 {
 public:
-    explicit Pair(char16_t const * name) : m_made(TString(name)), m_fast(m_made), m_plain(m_made) { StartAnew(true); }
+    explicit Pair(TString const & name) : m_made(name), m_fast(m_made), m_plain(m_made) { StartAnew(true); }
+    explicit Pair(char16_t const * name) : Pair(TString(name)) {}
 
     void StartAnew(bool cacheFormatter)
     {
@@ -290,6 +295,82 @@ TEST(DateTextPlan, ReadsAPatternAsIcuDoesInEveryLocale)
     }
 }
 
+// A few texts in each: what would tell a locale apart are its digits, marks and calendar, not the text.
+TEST(DateTextPlan, ReadsAsIcuDoesInWhateverLocaleIcuKnows)
+{
+    test_support::QuietLogger const quiet;
+    auto const locales = VelICU::ICULocale::getAvailableLocales();
+    Drawer draw(41, u"en_US");
+    std::size_t planned = 0;
+    for (auto const & icuLocale : locales) {
+        TString const name = TString::fromLatin1(icuLocale->getName());
+        Pair pair(name);
+        for (int i = 0; i < 12; ++i) {
+            std::u16string const pattern = i == 0 ? u"yyyy-MM-dd HH:mm:ss" : draw.Pattern();
+            std::u16string const text = i == 0 ? u"2021-02-03 14:15:16" : draw.Text(pattern);
+            ASSERT_TRUE(pair.Agree([&](TLocale const & locale, DateTime & out) {
+                return locale.ParseDateTime(text.c_str(), pattern.c_str(), out, ParseDateAndTime);
+            })) << name.toStdString()
+                << " [" << TString::fromView(pattern).toStdString() << "] \"" << TString::fromView(text).toStdString()
+                << '"';
+        }
+        planned += TLocalePeer::HasPlan(pair.Fast());
+    }
+    EXPECT_GT(planned, locales.size() / 2);
+}
+
+// By the pattern that is in the formatter already, where a text in the exact form of the pattern is read at once.
+TEST(DateTextPlan, ReadsTheSameTextTwiceAsIcuDoes)
+{
+    struct Case
+    {
+        char16_t const * pattern;
+        char16_t const * text;
+    };
+    static constexpr Case cases[] = {
+        {u"yyyy-MM-dd", u"2020-01-02"},
+        {u"yyyy-MM-dd", u" 2020-01-02 "},
+        {u"yyyy-MM-dd", u"0399-01-02"},
+        {u"yyyy-MM-dd", u"0046-01-02"},
+        {u"yyyy-MM-dd", u"0000-01-02"},
+        {u"yyyy-MM-dd", u"2100-02-29"},
+        {u"yyyy-MM-dd HH:mm:ss.SSS", u"2020-01-02 24:00:00.000"},
+        {u"yyyy-MM-dd HH:mm:ss.SSS", u"9999-12-31 23:59:59.999"},
+        {u" yyyy-MM-dd", u" 2020-01-02"},
+        {u" yyyy-MM-dd", u"2020-01-02"},
+        {u"  yyyy-MM-dd", u" 2020-01-02"},
+        {u"yyyy-MM-dd ", u"2020-01-02 "},
+        {u"yyyy-MM-dd  ", u"2020-01-02 "},
+        {u"yyyy-MM-dd.", u"2020-01-02"},
+        {u"yyyy-MM-dd'Z'", u"2020-01-02Z"},
+        {u"yyyy  MM dd", u"2020 01 02"},
+        {u"yyyyMMddHHmmssSSS", u"20200102030405678"},
+        {u"yyyyMMddHHmmssSSS", u"20201302030405678"},
+        {u"-yyyy-MM-dd", u"-2020-01-02"},
+        {u"/yyyy/MM/dd", u"/2020/01/02"},
+        {u"MM-dd yyyy", u"01-02 -999"},
+    };
+    test_support::QuietLogger const quiet;
+    for (char16_t const * const name : {u"en_US", u"de_DE", u"sv_SE", u"ar_EG", u"th_TH@calendar=buddhist"}) {
+        Pair pair(name);
+        for (Case const & c : cases) {
+            pair.StartAnew(true);
+            for (int i = 0; i < 3; ++i) {
+                ASSERT_TRUE(pair.Agree([&](TLocale const & locale, DateTime & out) {
+                    return locale.ParseDateTime(c.text, c.pattern, out, ParseDateAndTime);
+                })) << TString(name).toStdString()
+                    << " [" << TString(c.pattern).toStdString() << "] \"" << TString(c.text).toStdString() << '"';
+            }
+            for (auto const options : {ParseDateAndTime, ParseDateOnly, ParseTimeOnly}) {
+                ASSERT_TRUE(pair.Agree([&](TLocale const & locale, DateTime & out) {
+                    return locale.ParseDateTimeTryAllFormats(c.text, out, options);
+                })) << TString(name).toStdString()
+                    << " [" << TString(c.pattern).toStdString() << "] \"" << TString(c.text).toStdString() << '"';
+            }
+        }
+    }
+}
+
 TEST(DateTextPlan, SearchesAsIcuDoes)
 {
     test_support::QuietLogger const quiet;
@@ -339,6 +420,28 @@ TEST(DateTextPlan, AFormatThatACallerChangedIsLeftToIcu)
     EXPECT_TRUE(locale.ParseDateTime(u"2020/1/2", u"yyyy-MM-dd", out, ParseDateAndTime));
     EXPECT_EQ(out, DateTime(2020, 1, 2, 0, 0, 0, 0.0));
     EXPECT_FALSE(TLocalePeer::HasPlan(locale));
+}
+
+TEST(DateTextPlan, ACenturyThatACallerChoseCounts)
+{
+    TLocale const locale(u"en_US");
+    DateTime out;
+    EXPECT_TRUE(locale.ParseDateTime(u"05/06/20", u"MM/dd/yy", out, ParseDateAndTime));
+    EXPECT_EQ(out, DateTime(2020, 5, 6, 0, 0, 0, 0.0));
+    EXPECT_TRUE(TLocalePeer::HasPlan(locale));
+    auto * const format =
+        dynamic_cast<VelICU::ICUSimpleDateFormat *>(&locale.GetFormatterCache()->GetICUDateFormatter());
+    ASSERT_NE(format, nullptr);
+    VelICU::ICUErrorCode status = VelICU::U_ZERO_ERROR;
+    constexpr double YEAR_1801 = -5333126400000.0;  // its first moment, in milliseconds
+    format->set2DigitYearStart(YEAR_1801, status);
+    EXPECT_TRUE(VelICU::ICU_SUCCESS(status));
+    EXPECT_FALSE(TLocalePeer::HasPlan(locale));
+    // By the pattern in place, and by one that is applied later.
+    EXPECT_TRUE(locale.ParseDateTimeTryAllFormats(u"05/06/20", out, ParseDateAndTime));
+    EXPECT_EQ(out, DateTime(1820, 5, 6, 0, 0, 0, 0.0));
+    EXPECT_TRUE(locale.ParseDateTime(u"06.05.21", u"dd.MM.yy", out, ParseDateAndTime));
+    EXPECT_EQ(out, DateTime(1821, 5, 6, 0, 0, 0, 0.0));
 }
 
 TEST(DateTextPlan, AFormatterOfTheCallersIsLeftToIcu)
