@@ -70,6 +70,56 @@ TEST(TLocaleDateNative, IsNotAskedWithAReferenceNorWhenSwitchedOff)
     EXPECT_EQ(out, VALUE);
 }
 
+// A text that the platform read last is not a matter of the reference: its try comes before the search.
+TEST(TLocaleDateNative, TheMemoryAsksWithoutTheCallersReference)
+{
+    DateTime const reference(2010, 6, 1, 0, 0, 0, 0.0);
+    for (bool const dateSearch : {false, true}) {
+        TLocale const locale(u"en_US");
+        auto const search = [&] {
+            DateTime out = SENTINEL;
+            bool const read = dateSearch ? locale.ParseDateTryAllFormats(NATIVE, reference, out, ParseDateAndTime)
+                                         : locale.ParseDateTimeTryAllFormats(NATIVE, reference, out, ParseDateAndTime);
+            EXPECT_EQ(read, out != SENTINEL);
+            return out;
+        };
+        EXPECT_EQ(search(), SENTINEL);
+        EXPECT_EQ(Search(locale, NATIVE), VALUE);
+        EXPECT_EQ(search(), VALUE);
+        EXPECT_TRUE(TLocalePeer::ReadNativeLast(locale));
+        EXPECT_EQ(Search(locale, u"13-Oct"), DateTime(1899, 10, 13, 0, 0, 0, 0.0));
+        EXPECT_EQ(search(), SENTINEL);
+    }
+}
+
+TEST(TLocaleDateNative, ADayThatNoPatternTakesIsItsToDecide)
+{
+    TLocale const platform(u"en_US");
+    for (char16_t const * const text : {u"2024-02-30", u"2023-02-29", u"2024-04-31 10:00", u"2/30/24"}) {
+        TLocale locale(u"en_US");
+        DateTime expected = SENTINEL;
+        platform.ParseDateTimeUsingNativeAPIs(text, expected, ParseDateAndTime);
+        EXPECT_EQ(Search(locale, text), expected) << TString(text).toStdString();
+        EXPECT_EQ(TLocalePeer::ReadNativeLast(locale), expected != SENTINEL);
+        EXPECT_EQ(TLocalePeer::GetPattern(locale), TString(u"MM/dd/yy hh:mm a"));
+    }
+}
+
+TEST(TLocaleDateNative, OtherOptionsPrintBothHalvesAndReadTheTime)
+{
+    TLocale const locale(u"en_US");
+    for (int const other : {0, 4, 5, 6, 7, -1}) {
+        auto const options = static_cast<DateTimeParseOptions>(other);
+        EXPECT_EQ(locale.Format(VALUE, options), TString(u"1/2/2020 3:04:05 PM")) << other;
+        DateTime out = SENTINEL;
+        EXPECT_TRUE(locale.ParseDateTimeUsingNativeAPIs(NATIVE, out, options)) << other;
+        EXPECT_EQ(out, DateTime(1899, 12, 30, 15, 4, 5, 0.0)) << other;
+        out = SENTINEL;
+        EXPECT_FALSE(locale.ParseDateTimeUsingNativeAPIs(u"1/2/2020", out, options)) << other;
+        EXPECT_EQ(out, SENTINEL);
+    }
+}
+
 TEST(TLocaleDateNative, WithoutACachedFormatterTheMemoryIsNotLookedAt)
 {
     TLocale locale(u"en_US");

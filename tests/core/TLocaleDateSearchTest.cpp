@@ -2,13 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <climits>
+#include <future>
+#include <memory>
+#include <stdexcept>
+#include <thread>
 
 #include "tests/core/TLocalePeer.h"
 #include "tests/support/ErrorMatchers.h"
 #include "tests/support/ValuePrinters.h"
 #include "velcoredata/core/TLocale.h"
 #include "velcoredata/data/DateTime.h"
+#include "velcoreplatform/TLog.h"
 #include "velicu/ScopedStatusFault.h"
 
 using namespace test_support;
@@ -64,6 +70,31 @@ private:
 DateTime Day(int year, int month, int day)
 {
     return DateTime(year, month, day, 0, 0, 0, 0.0);
+}
+
+// Cannot log; what it throws is no error of the library.
+class BrokenLogger : public TLog::Logger
+{
+public:
+    BrokenLogger() : m_before(TLog::Logger::Replace(this)) {}
+    ~BrokenLogger() override { TLog::Logger::Replace(m_before); }
+
+    bool IsEnabled(TLog::AnySeverity const &) override { return true; }
+    void Log(TLog::Event const &, TLog::AnySeverity const &) override { throw std::runtime_error("broken"); }
+
+private:
+    TLog::Logger * m_before;
+};
+
+// The lock of reading is recursive, so that only another thread can tell whether it is free.
+bool IsFree(std::shared_ptr<Reader> const & reader)
+{
+    std::promise<DateTime> promise;
+    std::future<DateTime> result = promise.get_future();
+    std::thread([reader, answer = std::move(promise)]() mutable {
+        answer.set_value(reader->Parse(u"2021", u"yyyy"));
+    }).detach();
+    return result.wait_for(std::chrono::seconds(60)) == std::future_status::ready && result.get() == Day(2021, 12, 30);
 }
 
 }  // namespace
@@ -176,6 +207,9 @@ TEST(TLocaleDateSearch, FailuresOfIcuAreAssertions)
         VelICU::ScopedStatusFault const fault(VelICU::U_MEMORY_ALLOCATION_ERROR);
         EXPECT_THAT([&] { reader.Parse(u"2020", u"yyyy"); },
                     ThrowsAssert(CONDITION, "LogicException_LogicAssert_0xBD3A59A6"));
+        // The next reading builds the calendar.
+        EXPECT_EQ(reader.Search(u"2021"), Day(2021, 12, 30));
+        EXPECT_EQ(TLocalePeer::CountReadings(reader.Locale()), 0);
     }
     for (int field = 0; field < 4; ++field) {
         Reader reader;
@@ -194,6 +228,50 @@ TEST(TLocaleDateSearch, FailuresOfIcuAreAssertions)
         EXPECT_THAT([&] { reader.Parse(u"2021 EEE", u"yyyy 'EEE'"); }, ThrowsAssert(CONDITION, error));
         // The lock is free again.
         EXPECT_EQ(reader.Parse(u"2021", u"yyyy"), Day(2021, 12, 30));
+    }
+}
+
+TEST(TLocaleDateSearch, WhatATryThrowsLeavesTheLockFree)
+{
+    auto const reader = std::make_shared<Reader>();
+    EXPECT_EQ(reader->Parse(u"2020", u"yyyy"), Day(2020, 12, 30));
+    {
+        VelICU::ScopedStatusFault const fault(VelICU::U_ILLEGAL_ARGUMENT_ERROR, 4);
+        EXPECT_THAT([&] { reader->Parse(u"2021 EEE", u"yyyy 'EEE'"); },
+                    ThrowsAssert("VelICU::ICU_SUCCESS(success)", "LogicException_LogicAssert_0xC71ECD6B"));
+    }
+    EXPECT_TRUE(IsFree(reader));
+    // A year that is refused is logged before; an error of the logger is not one of the text.
+    DateTime out = SENTINEL;
+    {
+        BrokenLogger const logger;
+        EXPECT_THROW(reader->Locale().ParseDateTime(u"0399-01-02", u"yyyy-MM-dd", out, ParseDateAndTime),
+                     std::runtime_error);
+        EXPECT_THROW(reader->Locale().ParseDateTimeTryAllFormats(u"0399-01-02", out, ParseDateAndTime),
+                     std::runtime_error);
+        EXPECT_THROW(reader->Locale().ParseDateTryAllFormats(u"0399-01-02", out, ParseDateAndTime), std::runtime_error);
+    }
+    EXPECT_EQ(out, SENTINEL);
+    EXPECT_TRUE(IsFree(reader));
+}
+
+TEST(TLocaleDateSearch, TheTableServesLocalesWhoseNameBeginsWithEnUs)
+{
+    struct Case
+    {
+        char16_t const * name;
+        char16_t const * last;  // the pattern that a failed search leaves
+    };
+    constexpr char16_t const * ROW = u"MM/dd/yy hh:mm a";
+    constexpr char16_t const * SHAPE = u"yyyy-MM-dd'T'HH:mm:ss.SSSSSS";
+    for (auto const & [name, last] : {Case{u"en_US", ROW}, Case{u"en_US_POSIX", ROW}, Case{u"en_GB", SHAPE},
+                                      Case{u"en_CA", SHAPE}, Case{u"es_US", SHAPE}})
+    {
+        Reader reader(name);
+        EXPECT_EQ(reader.Search(u"never"), SENTINEL);
+        EXPECT_EQ(reader.Pattern(), TString(last)) << TString(name).toStdString();
+        EXPECT_EQ(reader.SearchDate(u"never"), SENTINEL);
+        EXPECT_EQ(reader.Pattern(), TString(last)) << TString(name).toStdString();
     }
 }
 

@@ -71,3 +71,38 @@ TEST(TLocaleDateThreads, PrintingGivesTheSameWhileOthersRead)
         thread.join();
     EXPECT_EQ(wrong, 0);
 }
+
+// The operation that asks the platform alone takes no lock and leaves its mark while others look at it in a search.
+TEST(TLocaleDateThreads, TheMarkOfThePlatformsParserMayChangeDuringASearch)
+{
+    TLocale const shared(u"en_US");
+    std::atomic<int> wrong = 0;
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 2; ++t) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < ROUNDS; ++i) {
+                DateTime out;
+                if (!shared.ParseDateTimeUsingNativeAPIs(u"Jan 2, 2020 3:04:05 PM", out, ParseDateAndTime) ||
+                    out != DateTime(2020, 1, 2, 15, 4, 5, 0.0))
+                    ++wrong;
+            }
+        });
+        threads.emplace_back([&] {
+            for (int i = 0; i < ROUNDS; ++i) {
+                // Read by the platform, by a pattern, and by nothing, whatever the mark says.
+                DateTime out;
+                if (!shared.ParseDateTimeTryAllFormats(u"Jan 3, 2020 3:04:05 PM", out, ParseDateAndTime) ||
+                    out != DateTime(2020, 1, 3, 15, 4, 5, 0.0))
+                    ++wrong;
+                if (!shared.ParseDateTimeTryAllFormats(u"2020-01-04", out, ParseDateAndTime) ||
+                    out != DateTime(2020, 1, 4, 0, 0, 0, 0.0))
+                    ++wrong;
+                if (shared.ParseDateTimeTryAllFormats(u"never", out, ParseDateAndTime))
+                    ++wrong;
+            }
+        });
+    }
+    for (std::thread & thread : threads)
+        thread.join();
+    EXPECT_EQ(wrong, 0);
+}

@@ -37,6 +37,22 @@ TEST(DateTimeText, ConstructorsFromAPatternThrowForATextThatDoesNotFit)
                 ThrowsError("VeltriaException_AutoGen_0x8E8A7D12", "Error parsing date 'never'", 4, 2));
 }
 
+TEST(DateTimeText, ANullTextIsAnEmptyOne)
+{
+    constexpr char16_t const * NONE = nullptr;
+    TLocale const locale = NewLocale(u"en_US");
+    EXPECT_THAT([&] { DateTime(NONE, u"yyyy"); },
+                ThrowsError("VeltriaException_AutoGen_0x2CE8742C", "Error parsing date ''", 4, 2));
+    EXPECT_THAT([&] { DateTime(NONE, u"yyyy", locale); },
+                ThrowsError("VeltriaException_AutoGen_0x8E8A7D12", "Error parsing date ''", 4, 2));
+    EXPECT_EQ(DateTime(NONE, ParseDateAndTime, locale).GetRepresentation(), 0u);
+    DateTime value = SENTINEL;
+    EXPECT_FALSE(value.ParseDateTime(NONE, u"yyyy"));
+    EXPECT_FALSE(value.ParseDateTimeTryAllFormats(NONE));
+    EXPECT_FALSE(value.ParseDateTimeNative(NONE, locale));
+    EXPECT_EQ(value, SENTINEL);
+}
+
 TEST(DateTimeText, ConstructorsFromTextAloneLeaveZeroForATextThatNothingFits)
 {
     EXPECT_EQ(DateTime(u"2020-02-03"), Day(2020, 2, 3));
