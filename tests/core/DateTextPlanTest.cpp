@@ -189,10 +189,10 @@ private:
 TEST(DateText, IsPlainIfItsNumbersArePlainDigits)
 {
     for (char16_t const * const text :
-         {u"", u"2020-01-02", u"May 5, 2020 10:11 PM", u"2020-01-02T03:04:05Z", u"x", u"123456789", u"5 Sep", u"a-1"})
+         {u"", u"2020-01-02", u"May 5, 2020 10:11 PM", u"2020-01-02T03:04:05Z", u"x", u"123456789", u"5 Sep", u"Jan-1"})
         EXPECT_TRUE(DateText(text).IsPlain()) << TString(text).toStdString();
-    for (char16_t const * const text : {u"1234567890", u"-5", u"5--6", u" -5", u"5e3", u"6E", u"NaN", u"5+6",
-                                        u"5\u00A06", u"\u0662", u"5'6", u"\t", u"(5)", u"5_6"})
+    for (char16_t const * const text : {u"1234567890", u"-5", u"T-1", u"AM-1", u"5--6", u" -5", u"5e3", u"6E", u"NaN",
+                                        u"5+6", u"5\u00A06", u"\u0662", u"5'6", u"\t", u"(5)", u"5_6"})
         EXPECT_FALSE(DateText(text).IsPlain()) << TString(text).toStdString();
     EXPECT_TRUE(DateText(std::u16string(100, u'x')).IsPlain());
     EXPECT_FALSE(DateText(std::u16string(101, u'x')).IsPlain());
