@@ -103,6 +103,8 @@ void NumberFormat::Open(std::string const & encoded, LCID lcid)
     if (!isFormat)
         Refuse(encoded);
     PopulateNumberFormatOptions(code, named == 0 ? lcid : named, format, &m_options, 0, -1);
+    if (m_options.decimalSeparator.isEmpty())  // an LCID that nobody knows; 1.5 would read 15
+        Refuse(encoded);
 }
 
 std::string NumberFormat::TextOf(DataValue const & value) const

@@ -4,9 +4,11 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "typedtable/ValueText.h"
+#include "velcoredata/utility/DataValueOperators.h"
 #include "velcoreplatform/TString.h"
 
 namespace typedtable {
@@ -177,6 +179,41 @@ TEST(ReadCell, GivesANullOfTheTypeForAnEmptyCell)
             EXPECT_EQ(ValueText(*value), "%null%");
         }
     }
+}
+
+TEST(ReadCell, GivesTheValueOfTheCast)
+{
+    using enum DataType;
+    DataValueOperators const operators;
+    for (auto const & [cell, type] :
+         {std::pair("42", Integer), std::pair("-9223372036854775808", Integer), std::pair("1e-3", Real),
+          std::pair("9223372036854775808", Real), std::pair("2012-02-29", Date), std::pair("2012-02-29", DateTime),
+          std::pair("2012-01-31T06:30:15.123456789", DateTime)})
+    {
+        auto const value = ReadCell(cell, type);
+        ASSERT_TRUE(value.has_value()) << cell;
+        EXPECT_EQ(*value, operators.ExplicitCast(DataValue::FromString(TString::fromStdString(cell)), type)) << cell;
+    }
+}
+
+TEST(CastCell, TakesWhatTheCastTakesAndMarksTheRest)
+{
+    using enum DataType;
+    EXPECT_EQ(CastCell(" 007 ", Integer), DataValue(7));
+    EXPECT_EQ(CastCell("1.9", Integer), DataValue(1));
+    EXPECT_EQ(CastCell(" 007 ", String).GetString(), TString(u" 007 "));
+    for (DataType const type : {Integer, Real, Date, DateTime, Spatial, String}) {
+        DataValue const null = CastCell(" \t", type);
+        EXPECT_TRUE(null.IsNull());
+        EXPECT_EQ(null.GetDataType(), type);
+    }
+    for (DataType const type : {Integer, Real, Date, DateTime}) {
+        DataValue const error = CastCell("x", type);
+        EXPECT_TRUE(error.IsSpecial(DataValueTypes::Error));
+        EXPECT_EQ(error.GetDataType(), type);
+        EXPECT_EQ(ValueText(error), "%error%");
+    }
+    EXPECT_TRUE(CastCell("x", Spatial).IsNull());
 }
 
 TEST(ReadCell, GivesNothingForACellOfAnotherType)

@@ -69,6 +69,26 @@ POINT (1 2)
 SRID=4326;POINT (3 4)
 """, path, "--cast", "g:spatial")
 
+    def test_shapes_without_bounds(self):
+        deep = "GEOMETRYCOLLECTION(" * 10000 + "POINT(1 2)" + ")" * 10000
+        cells = [deep, "POINT(1e999 2)", "POLYGON((1 1))", "POINT(nan 2)"]
+        result = run(self.write("g\n" + "".join(f'"{cell}"\n' for cell in cells)), "--cast", "g:spatial")
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        self.assertIn(b"\ng       SPATIAL      4       0\n", result.stdout)
+        self.assertIn(b"\ng          2  GEOMETRYCOLLECTION(GEOMETRYCOLLECTION...\n", result.stdout)
+
+    def test_shapes_are_sorted_gathered_and_compared(self):
+        path = self.write("g\nPOINT (2 1)\n\nPOINT (1 2)\nPOINT(2 1)\n")
+        cast = ["--cast", "g:spatial"]
+        lines = run(path, *cast, "--distinct", "g").stdout.decode().splitlines()
+        # The order of shapes is the library's own.
+        self.assertEqual(sorted(lines[1:-1]), ["%null%           1", "POINT (1 2)      1", "POINT (2 1)      2"])
+        self.assertEqual((lines[0], lines[-1]), ("g            count", "3 different values in 4 rows"))
+        self.assertEqual(run(path, *cast, "--where", "g != null", "--count").stdout, b"count\n    3\n3 of 4 rows\n")
+        self.assert_refuses(f'{path}: --sum: column "g" is SPATIAL, not a number', path, *cast, "--sum", "g")
+        self.assert_refuses(f'{path}: --group-by: column "g" is SPATIAL, not DATE or DATETIME', path, *cast,
+                            "--group-by", "g:year")
+
     def test_the_other_tasks_use_the_type_and_warn(self):
         path = self.write("n,s\n10,a\nx,b\n9,c\n")
         for arguments, expected in (
@@ -160,6 +180,14 @@ class Formats(Program):
         path = self.write("n\n123456789\n")
         self.assert_prints("              n\n12,34,56,789.00\n1 row\n", path, "--sort", "n", "--format", "n=N16393%")
 
+    def test_formats_of_a_locale(self):
+        path = self.write("n\n1234.5\n-3\n")
+        for encoded, low, high in (("C1033%", "-$3.00", "$1,234.50"), ("C1031%", "-3,00 \u20ac", "1.234,50 \u20ac"),
+                                   ("N1033%", "-3.00", "1,234.50"), ("N", "-3.00", "1,234.50")):
+            width = len(high)
+            self.assert_prints(f"{'n':>{width}}\n{low:>{width}}\n{high}\n2 rows\n", path, "--sort", "n", "--format",
+                               "n=" + encoded)
+
     def test_sums_take_the_format_and_counts_do_not(self):
         path = self.write("k,n\na,1000\na,2000\n")
         self.assert_prints(" sum(n)  mean(n)  count\n3,000.0  1,500.0      2\n2 rows\n",
@@ -183,7 +211,7 @@ class Formats(Program):
     def test_refuses(self):
         path = self.write("n,s\n1,a\n")
         for text in ("", "0.00", "n", "x0", "nabc", "p", "p0.0", "e", "e0.0", "L", "S1033%", "Thh:mm", "*", "*Nothing",
-                     "n!"):
+                     "n!", "C999999%", "N70000%"):
             with self.subTest(text=text):
                 self.assert_refuses(f'--format: "{text}" is not a number format, as "n#,##0.00" is', path, "--format",
                                     "n=" + text)
