@@ -115,6 +115,11 @@ public:
     //
     // and a search that succeeded, repeated at once with ParseDateAndTime and without a reference, gives the same
     // value.
+    // Laws, where x has no more than the pattern p prints, and p has a year of four digits, a month and a day:
+    //   ParseDateTime(Format(x, p), p, out, ParseDateAndTime) && out == x, on the Gregorian calendar in every locale,
+    //     but for numbers side by side in digits that take two code units
+    //   !Parse...(text, ..., out, ...) leaves out as it was; a blank text leaves all that is remembered as it was
+    //   TLocale(a).Format(x, p) == a.Format(x, p) for a locale without keywords, and TLocale(a) remembers no reading
     // With setCacheFormatter(false) a search in a locale of "en_US" does not depend on what was read before. In other
     // locales it still may: a search that had to try the locale's styles leaves a formatter of ICU's that is lenient,
     // and the next search applies its patterns to that.
