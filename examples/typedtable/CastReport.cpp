@@ -29,7 +29,7 @@ void PrintOffences(std::ostream & out, Schema const & schema)
 void WarnOfOffences(std::ostream & out, std::string const & fileName, Schema const & schema)
 {
     for (Schema::Column const & column : schema.columns) {
-        if (column.offences.empty())
+        if (!column.isCast || column.offences.empty())
             continue;
         Schema::Offence const & first = column.offences.front();
         out << OnOneLine(Text("%1: column \"%2\": %3 of %4 cells are no %5, the first on line %6: \"%7\"", fileName,

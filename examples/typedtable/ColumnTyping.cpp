@@ -51,7 +51,7 @@ std::optional<DataValue> ReadCell(std::string_view cell, DataType type, Collatio
     return value;
 }
 
-void ColumnTyping::Add(std::string_view cell)
+void ColumnTyping::Add(std::string_view cell, long long line)
 {
     if (WithoutBlanks(cell).empty()) {
         ++m_nulls;
@@ -66,6 +66,7 @@ void ColumnTyping::Add(std::string_view cell)
         m_type = DataType::DateTime;
     } else if (m_type != DataType::Unknown) {
         m_type = DataType::String;
+        m_breaker = Breaker{line, std::string(cell)};
     } else {
         m_type = DataType::String;
         for (DataType const type : kReadings) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "velcoredata/data/Collation.h"
@@ -38,9 +39,20 @@ std::optional<DataValue> ReadCell(std::string_view cell, DataType type,
 class ColumnTyping
 {
 public:
-    void Add(std::string_view cell);
+    /// The cell that made a text of a column whose cells before it were all of another type.
+    struct Breaker
+    {
+        long long line;
+        std::string cell;
+    };
+
+    /// `line` is where the cell's row begins.
+    void Add(std::string_view cell, long long line = 0);
 
     DataType GetType() const noexcept { return m_type == DataType::Unknown ? DataType::String : m_type; }
+
+    /// Nothing for a column that is no text, and for one that was text from its first cell on.
+    std::optional<Breaker> const & GetBreaker() const noexcept { return m_breaker; }
 
     /// Empty cells, and those of blanks and tabs alone.
     long long GetNulls() const noexcept { return m_nulls; }
@@ -48,6 +60,7 @@ public:
 private:
     DataType m_type = DataType::Unknown;
     long long m_nulls = 0;
+    std::optional<Breaker> m_breaker;
 };
 
 }  // namespace typedtable

@@ -71,6 +71,7 @@ void FindDates(InputFile & file, Schema & schema, TLocale const & locale)
         Schema::Column & column = schema.columns[i];
         column.dates = inference.Finish();
         column.type = column.dates->GetType();
+        column.offences.clear();
         schema.firstRows.columns[i].type = column.type;
         for (auto & row : schema.firstRows.rows) {
             std::string const cell = row[i].IsNull() ? std::string() : row[i].GetString().toStdString();

@@ -115,7 +115,7 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows, std::vector<CastCh
             if (schema.columns[i].isCast)
                 AddCastCell(schema.columns[i], cells[i], reader.GetLine());
             else
-                typings[i].Add(cells[i]);
+                typings[i].Add(cells[i], reader.GetLine());
         }
         if (texts.size() < firstRows)
             texts.emplace_back(cells.begin(), cells.end());
@@ -128,6 +128,8 @@ Schema ReadSchema(ByteSource & source, std::size_t firstRows, std::vector<CastCh
         if (!column.isCast) {
             column.type = typings[i].GetType();
             column.nulls = typings[i].GetNulls();
+            if (auto const & breaker = typings[i].GetBreaker())
+                column.offences.push_back({breaker->line, BeginningOf(breaker->cell)});
         }
         schema.firstRows.columns.push_back({column.name, column.type});
     }

@@ -21,7 +21,7 @@ namespace typedtable {
 /// What one reading of a whole file tells about it.
 struct Schema
 {
-    /// A cell that a cast did not take. Most are %error%; text that is no shape is a null.
+    /// A cell that a cast did not take, %error% or a null; or the one that made a column text, see ColumnTyping.
     struct Offence
     {
         long long line;    // on which its row begins
@@ -40,7 +40,7 @@ struct Schema
         bool isCast = false;                                   // to the type that the user named
         long long errors = 0;                                  // cells that are %error%; only a cast has them
         long long offending = 0;                               // cells with a text that the cast did not take
-        std::vector<Offence> offences = {};                    // the first of them
+        std::vector<Offence> offences = {};                    // the first of them; of a text at most one
     };
 
     std::string source;  // the data source that a qualified name of a column may name

@@ -156,6 +156,26 @@ TEST(ColumnTyping, TakesTheNarrowestTypeThatReadsEveryCell)
     EXPECT_EQ(TypeOf({"1.5", "x", "1.5"}), DataType::String);
 }
 
+TEST(ColumnTyping, KeepsTheCellThatMadeItText)
+{
+    ColumnTyping typing;
+    long long line = 1;
+    for (char const * cell : {"1", "", "2.5", "007", "x", "3"})
+        typing.Add(cell, ++line);
+    ASSERT_TRUE(typing.GetBreaker().has_value());
+    EXPECT_EQ(typing.GetBreaker()->line, 5);
+    EXPECT_EQ(typing.GetBreaker()->cell, "007");
+
+    ColumnTyping texts;
+    for (char const * cell : {"x", "1"})
+        texts.Add(cell, ++line);
+    EXPECT_FALSE(texts.GetBreaker().has_value());
+    ColumnTyping numbers;
+    for (char const * cell : {"1", "2.5"})
+        numbers.Add(cell, ++line);
+    EXPECT_FALSE(numbers.GetBreaker().has_value());
+}
+
 TEST(ColumnTyping, CountsNullsWithoutTypingByThem)
 {
     ColumnTyping typing;

@@ -32,6 +32,16 @@ id         n
 011  %error%
 """, path, "--cast", "n:integer")
 
+    def test_the_cell_that_made_a_column_text_is_shown(self):
+        path = self.write("n,d\n1,Jan 1 2000\n2,x\n3 EUR,y\n4 EUR,z\n")
+        self.assertIn("\nn       STRING      0\nd       STRING      0\n\ncolumn  line  offending cell\n"
+                      "n          4  3 EUR\n\n", run(path).stdout.decode())
+        # Not in front of other tables, and not if the texts are dates.
+        self.assertEqual(run(path, "--count").stderr, b"")
+        dates = self.write("d\n2000-01-01\nFeb 2 2000\n")
+        self.assertIn("offending", run(dates).stdout.decode())
+        self.assertNotIn("offending", run(dates, "--dates-in", "en_US").stdout.decode())
+
     def test_every_type(self):
         path = self.write("a,b,c,d,e,f\n007,1.9,1e3,Jan 5 2012,2012-01-31T06:30,5\n")
         self.assert_prints(f"""\
