@@ -46,7 +46,7 @@ bool DateTextPlan::TakeApart()
     if (m_count == 0 || hasHalf != hasHourOfHalf || (hasHour && hasHourOfHalf))
         return false;
     JoinRuns();
-    return true;
+    return !HasNumberBehindName();
 }
 
 bool DateTextPlan::AddField(char16_t letter, int count)
@@ -112,6 +112,27 @@ void DateTextPlan::JoinRuns()
         m_steps[i].run = static_cast<std::uint8_t>(digits);
         i = last;
     }
+}
+
+// Behind three letters the minus of a plain text is taken for a mark. If a number follows there, it is a sign, which
+// ICU reads: "Jan-0" by "MMMHH".
+bool DateTextPlan::HasNumberBehindName() const noexcept
+{
+    int letters = 0;  // that the steps just before may take
+    for (std::size_t i = 0; i < m_count; ++i) {
+        Step const & step = m_steps[i];
+        switch (step.field) {
+        case Field::MonthName: letters += 3; break;
+        case Field::Half: letters += 2; break;
+        case Field::Blank: letters = 0; break;
+        case Field::Literal: letters = IsLetter(step.unit) ? letters + 1 : 0; break;
+        default:
+            if (letters >= 3)
+                return true;
+            letters = step.field == Field::Month && step.inRun == 0 ? 3 : 0;
+        }
+    }
+    return false;
 }
 
 // A number of the text is taken by one field of digits, or by none, and a mark by one literal; only behind the last

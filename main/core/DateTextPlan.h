@@ -79,6 +79,7 @@ private:
     bool AddField(char16_t letter, int count);
     bool AddLiteral(char16_t unit);
     void JoinRuns();
+    bool HasNumberBehindName() const noexcept;
     void DrawSignature();
     void DrawForm();
     bool CannotFit(DateText const & text) const noexcept;

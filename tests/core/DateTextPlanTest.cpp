@@ -349,6 +349,14 @@ TEST(DateTextPlan, ReadsTheSameTextTwiceAsIcuDoes)
         {u"-yyyy-MM-dd", u"-2020-01-02"},
         {u"/yyyy/MM/dd", u"/2020/01/02"},
         {u"MM-dd yyyy", u"01-02 -999"},
+        {u"MMMHH", u"Jan-0"},
+        {u"d MMMHH:mm", u"5 Jan-0:04"},
+        {u"yyyy-MM-dd'TTT'HH", u"2020-01-02TTT-0"},
+        {u"yyyy-MM-dd'ZT'HH", u"2020-01-02ZT-0"},
+        {u"M'T'HH", u"JanT-0"},
+        {u"MMMahh", u"MayAM-0"},
+        {u"MMMss", u"Jan-00"},
+        {u"MMM'-'HH", u"Jan--0"},
     };
     test_support::QuietLogger const quiet;
     for (char16_t const * const name : {u"en_US", u"de_DE", u"sv_SE", u"ar_EG", u"th_TH@calendar=buddhist"}) {
